@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The runtime's failure numbers and their descriptions.
+#include "runtime/failure.h"
+
+#include <array>
+#include <cerrno>
+#include <system_error>
+#include <utility>
+
+namespace kav {
+
+namespace {
+
+constexpr std::array<std::pair<FailureNumber, const char*>, 10> kDescriptions{{
+    {kInvalidCall, "Invalid procedure call or argument"},
+    {kTypeMismatch, "Type mismatch"},
+    {kBadFileName, "Bad file name or number"},
+    {kFileNotFound, "File not found"},
+    {kDiskFull, "Disk full"},
+    {kInputPastEnd, "Input past end of file"},
+    {kPermissionDenied, "Permission denied"},
+    {kPathFileAccess, "Path/File access error"},
+    {kPathNotFound, "Path not found"},
+    {kCancelSelected, "Cancel was selected."},
+}};
+
+}  // namespace
+
+Failure::Failure(int number, const std::string& description)
+    : std::runtime_error(description), number_(number) {}
+
+Failure failureOf(FailureNumber number, const std::string& about) {
+    for (const auto& [known, description] : kDescriptions) {
+        if (known != number) continue;
+        return {number, about.empty() ? std::string(description) : std::string(description) + ": " + about};
+    }
+    throw std::invalid_argument("no such failure number");
+}
+
+Failure failureOfErrno(int errorNumber, const std::string& about) {
+    switch (errorNumber) {
+        case ENOENT: return failureOf(kFileNotFound, about);
+        case ENOTDIR: return failureOf(kPathNotFound, about);
+        case EACCES:
+        case EPERM:
+        case EROFS: return failureOf(kPermissionDenied, about);
+        case ENOSPC: return failureOf(kDiskFull, about);
+        case ENAMETOOLONG:
+        case EINVAL: return failureOf(kBadFileName, about);
+        default: {
+            const std::string reason = std::generic_category().message(errorNumber);
+            return failureOf(kPathFileAccess, about + " (" + reason + ")");
+        }
+    }
+}
+
+}  // namespace kav
