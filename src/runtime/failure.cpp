@@ -11,8 +11,9 @@ namespace kav {
 
 namespace {
 
-constexpr std::array<std::pair<FailureNumber, const char*>, 10> kDescriptions{{
+constexpr std::array<std::pair<FailureNumber, const char*>, 11> kDescriptions{{
     {kInvalidCall, "Invalid procedure call or argument"},
+    {kSubscriptOutOfRange, "Subscript out of range"},
     {kTypeMismatch, "Type mismatch"},
     {kBadFileName, "Bad file name or number"},
     {kFileNotFound, "File not found"},

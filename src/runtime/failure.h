@@ -23,6 +23,7 @@ class Failure : public std::runtime_error {
 /// The runtime's failure codes.
 enum FailureNumber : int {
     kInvalidCall = 5,
+    kSubscriptOutOfRange = 9,
     kTypeMismatch = 13,
     kBadFileName = 52,
     kFileNotFound = 53,

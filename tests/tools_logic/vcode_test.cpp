@@ -1,0 +1,265 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tools/vcode.h"
+
+#include "runtime/failure.h"
+#include "runtime/lines.h"
+
+#include <cstdio>
+#include <gtest/gtest.h>
+#include <random>
+#include <vector>
+
+namespace kav {
+
+namespace {
+
+bool neverAsked() {
+    ADD_FAILURE() << "asked to truncate";
+    return false;
+}
+
+std::string hexadecimal(std::size_t code) {
+    char digits[8];
+    std::snprintf(digits, sizeof digits, "%X", static_cast<unsigned>(code));
+    return digits;
+}
+
+/// The rule as it is told, for ASCII text: every position against all 102 entries in turn. Positions and
+/// entries count from 1.
+std::string toldVCode(const std::string& s, const std::string& separator) {
+    std::vector<std::string> lines(2);
+    std::size_t pairCount = 0;
+    std::size_t lineNumber = 1;
+    std::size_t passes = 0;
+    for (std::size_t i = 1; i <= s.size(); ++i) {
+        if (++passes == 16) {
+            ++lineNumber;
+            lines.emplace_back();
+            passes = 0;
+        }
+        bool found = false;
+        for (std::size_t j = 1; j <= 102; ++j) {
+            if (s.substr(i - 1, 2) != kVCodePairs[j - 1]) continue;
+            ++pairCount;
+            lines[lineNumber] += ",$" + hexadecimal(128 + j);
+            found = true;
+            ++i;
+        }
+        const char character = s[i - 1];
+        for (int code = 65; !found && code <= 123; ++code) {
+            if (code == 92) code = 97;
+            if (character != static_cast<char>(code)) continue;
+            lines[lineNumber] += ",$" + hexadecimal(static_cast<std::size_t>(code));
+            found = true;
+        }
+        if (!found) lines[lineNumber] += std::string(",\"") + character + "\"";
+    }
+    std::string data;
+    for (std::size_t line = 1; line <= lineNumber; ++line) {
+        data += separator + ".db " + lines[line].substr(1) + "\r\n";
+    }
+    return ";Compressed with Corwin Haleby's VCode algorithm\r\n;using KAV Compiler's String Converter.\r\n"
+           ";Origionally " +
+           std::to_string(s.size()) + " bytes, compressed to " + std::to_string(s.size() - pairCount) +
+           " bytes.\r\n" + data.substr(0, data.size() - 2);
+}
+
+std::string converted(std::string_view text) {
+    return vcodeConversion(text, LineStart::tabbed, neverAsked).value_or("declined");
+}
+
+/// The data lines alone, without what they begin with.
+std::vector<std::string> dataLines(std::string_view text) {
+    const std::string output = converted(text);
+    std::vector<std::string> lines;
+    for (const std::string_view line : linesOf(output)) {
+        if (line.starts_with("\t.db ")) lines.emplace_back(line.substr(5));
+    }
+    return lines;
+}
+
+std::string sizesLine(std::string_view text) {
+    const std::string output = converted(text);
+    return std::string(linesOf(output).at(2));
+}
+
+using Lines = std::vector<std::string>;
+
+}  // namespace
+
+TEST(VCode, WritesThreeCommentsAndTheData) {
+    EXPECT_EQ(vcodeConversion("is", LineStart::spaced, neverAsked),
+              ";Compressed with Corwin Haleby's VCode algorithm\r\n"
+              ";using KAV Compiler's String Converter.\r\n"
+              ";Origionally 2 bytes, compressed to 1 bytes.\r\n"
+              " .db $81");
+}
+
+TEST(VCode, EncodesTheSecondCharacterAgainWhereItBeginsALaterPair) {
+    EXPECT_EQ(dataLines("This is"), (Lines{"$E3,$81,$D5,$81"}));
+    EXPECT_EQ(sizesLine("This is"), ";Origionally 7 bytes, compressed to 3 bytes.");
+    EXPECT_EQ(dataLines("heis"), (Lines{"$83,$84,$73"}));
+    EXPECT_EQ(sizesLine("heis"), ";Origionally 4 bytes, compressed to 2 bytes.");
+}
+
+TEST(VCode, MixesPairsLettersAndQuotedCharacters) {
+    EXPECT_EQ(dataLines("Hello world."), (Lines{R"($E6,$9A,$E4," ",$77,$89,$6C,$64,".")"}));
+    EXPECT_EQ(sizesLine("Hello world."), ";Origionally 12 bytes, compressed to 8 bytes.");
+}
+
+TEST(VCode, WritesLettersAndTheCharactersBehindThemAsCodes) {
+    EXPECT_EQ(dataLines("A"), (Lines{"$41"}));
+    EXPECT_EQ(dataLines("Z"), (Lines{"$5A"}));
+    EXPECT_EQ(dataLines("["), (Lines{"$5B"}));
+    EXPECT_EQ(dataLines("a"), (Lines{"$61"}));
+    EXPECT_EQ(dataLines("z"), (Lines{"$7A"}));
+    EXPECT_EQ(dataLines("{"), (Lines{"$7B"}));
+}
+
+TEST(VCode, QuotesEveryOtherCharacter) {
+    EXPECT_EQ(dataLines("1"), (Lines{R"("1")"}));
+    EXPECT_EQ(dataLines("@"), (Lines{R"("@")"}));
+    EXPECT_EQ(dataLines("\\"), (Lines{R"("\")"}));
+    EXPECT_EQ(dataLines("`"), (Lines{R"("`")"}));
+    EXPECT_EQ(dataLines("|"), (Lines{R"("|")"}));
+    EXPECT_EQ(dataLines("\""), (Lines{R"(""")"}));
+    EXPECT_EQ(dataLines("\xC3\xA9"), (Lines{"\"\xC3\xA9\""}));
+}
+
+TEST(VCode, PutsFifteenPassesOnTheFirstLineAndSixteenOnTheOthers) {
+    const Lines lines = dataLines(std::string(48, '1'));
+    ASSERT_EQ(lines.size(), 4U);
+    const auto entries = [](const std::string& line) { return (line.size() + 1) / 4; };
+    EXPECT_EQ(entries(lines[0]), 15U);
+    EXPECT_EQ(entries(lines[1]), 16U);
+    EXPECT_EQ(entries(lines[2]), 16U);
+    EXPECT_EQ(entries(lines[3]), 1U);
+    EXPECT_EQ(dataLines(std::string(31, '1')).size(), 2U);
+    EXPECT_EQ(dataLines(std::string(15, '1')).size(), 1U);
+}
+
+TEST(VCode, MatchesNoPairAtTheLastCharacter) {
+    EXPECT_EQ(dataLines("i"), (Lines{"$69"}));
+    EXPECT_EQ(dataLines("xi"), (Lines{"$78,$69"}));
+    // The character behind the text is not looked at, even where the buffer goes on.
+    EXPECT_EQ(dataLines(std::string_view("is").substr(0, 1)), (Lines{"$69"}));
+}
+
+TEST(VCode, TakesTheEarlierOfTwoEqualEntries) {
+    EXPECT_EQ(dataLines("he"), (Lines{"$83"}));
+    EXPECT_EQ(dataLines("r."), (Lines{"$BF"}));
+    EXPECT_EQ(dataLines("n "), (Lines{"$D8"}));
+}
+
+TEST(VCode, MatchesTheLaterOfTwoEqualEntriesInTheSamePass) {
+    // "r." stands at 63 and at 81. "or" is entry 9, before both; "br" is entry 76, between them.
+    EXPECT_EQ(dataLines("or."), (Lines{"$89,$BF"}));
+    EXPECT_EQ(dataLines("br."), (Lines{"$CC,$D1"}));
+}
+
+TEST(VCode, NeverUsesTheEmptyEntry) {
+    std::string all;
+    for (int first = 32; first < 127; ++first) {
+        for (int second = 32; second < 127; ++second) {
+            all = {static_cast<char>(first), static_cast<char>(second)};
+            EXPECT_EQ(converted(all).find("$D9"), std::string::npos) << all;
+        }
+    }
+}
+
+TEST(VCode, RefusesAnEmptyText) {
+    try {
+        (void)vcodeConversion("", LineStart::spaced, neverAsked);
+        FAIL() << "converted nothing";
+    } catch (const Failure& failure) {
+        EXPECT_EQ(failure.number(), kInvalidCall);
+    }
+}
+
+TEST(VCode, AsksOnceBeforeItCutsToTheLimit) {
+    int asked = 0;
+    const auto yes = [&] { return ++asked > 0; };
+    const std::string output = vcodeConversion(std::string(80000, '1'), LineStart::spaced, yes).value_or("");
+    EXPECT_EQ(asked, 1);
+    EXPECT_NE(output.find(";Origionally 79999 bytes, compressed to 79999 bytes."), std::string::npos);
+}
+
+TEST(VCode, TakesTheLimitItselfWithoutAQuestion) {
+    const std::string output = converted(std::string(79999, '1'));
+    EXPECT_NE(output.find(";Origionally 79999 bytes"), std::string::npos);
+}
+
+TEST(VCode, GivesNothingWhenTheCutIsDeclined) {
+    EXPECT_FALSE(
+        vcodeConversion(std::string(80000, '1'), LineStart::spaced, [] { return false; }).has_value());
+}
+
+TEST(VCode, IsTheToldRuleOnEveryPairOfPairs) {
+    for (const std::string_view first : kVCodePairs) {
+        for (const std::string_view second : kVCodePairs) {
+            const std::string text = std::string(first) + std::string(second);
+            if (text.empty()) continue;
+            ASSERT_EQ(converted(text), toldVCode(text, "\t")) << text;
+        }
+    }
+}
+
+TEST(VCode, IsTheToldRuleOnRandomTexts) {
+    std::mt19937 random(20240501);
+    const std::string letters = "aehinorst. !?:E[{z0\"\r\\";
+    std::uniform_int_distribution<std::size_t> length(1, 120);
+    std::uniform_int_distribution<std::size_t> pick(0, letters.size() - 1);
+    std::uniform_int_distribution<std::size_t> pickPair(0, kVCodePairs.size() - 1);
+    for (int round = 0; round < 3000; ++round) {
+        std::string text;
+        for (std::size_t left = length(random); left > 0; --left) {
+            if (round % 2 == 0) {
+                text += letters[pick(random)];
+            } else {
+                text += kVCodePairs[pickPair(random)];
+            }
+        }
+        if (text.empty()) continue;
+        ASSERT_EQ(converted(text), toldVCode(text, "\t")) << text;
+    }
+}
+
+namespace {
+
+/// What a program that unpacks VCode shows: each code as its pair, everything else as it is.
+std::string unpacked(const std::vector<std::string>& lines) {
+    std::string text;
+    for (const std::string& line : lines) {
+        for (std::size_t at = 0; at < line.size(); at += 4) {
+            if (line[at] == '"') {
+                text += line[at + 1];
+                continue;
+            }
+            const auto code = static_cast<std::size_t>(std::stoi(line.substr(at + 1, 2), nullptr, 16));
+            text +=
+                code > 128 ? std::string(kVCodePairs[code - 129]) : std::string(1, static_cast<char>(code));
+        }
+    }
+    return text;
+}
+
+}  // namespace
+
+TEST(VCode, UnpacksToTheTextButForWhatIsEncodedTwice) {
+    const std::string text = "Hello world. A quick brown fox jumps 12 [times] over 3 lazy dogs";
+    EXPECT_EQ(unpacked(dataLines("I am a frog [12] {no pair}")), "I am a frog [12] {no pair}");
+    EXPECT_EQ(unpacked(dataLines("Hello")), "Helllo");
+    // Each character that is encoded twice shows up twice; taking those out gives the text back.
+    const std::string shown = unpacked(dataLines(text));
+    std::size_t at = 0;
+    for (const char c : shown) {
+        if (at < text.size() && text[at] == c) {
+            ++at;
+        } else {
+            EXPECT_EQ(c, text[at - 1]);
+        }
+    }
+    EXPECT_EQ(at, text.size());
+}
+
+}  // namespace kav
