@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The assembler's listing, read for the errors that become tasks.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace kav {
+
+/// An error as the task list shows it.
+struct ImportedTask {
+    std::string text;
+    std::string tag;  ///< document number and the listing's four line number characters
+
+    bool operator==(const ImportedTask&) const = default;
+};
+
+/// The tasks in a listing: every line that follows a line which begins with "temp" becomes one.
+[[nodiscard]] std::vector<ImportedTask> importListing(std::string_view listing, char documentNumber);
+
+}  // namespace kav
