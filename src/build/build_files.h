@@ -23,19 +23,13 @@ inline constexpr std::string_view kListingFileName = "temp.lst";
 inline constexpr std::string_view kStatusRunning = "2\r\n";
 
 /// The built-in macros that stand in front of every document: ten lines, each ended by CR LF.
-[[nodiscard]] std::string_view macroBlock();
+[[nodiscard]] std::string macroBlock();
 
 /// The source file's content: the macro block, the document's text and CR LF.
 [[nodiscard]] std::string buildSource(std::string_view documentText);
 
 /// Turns the first blank of every line but the first into a TAB.
 [[nodiscard]] std::string tabPass(std::string_view text);
-
-/// The text that BuildState keeps of a build: the tab pass over macro block and document.
-[[nodiscard]] std::string lastBuildText(std::string_view documentText);
-
-/// The fifth character of a document's caption, '0' when the caption is shorter.
-[[nodiscard]] char builtDocumentNumber(std::string_view caption);
 
 /// The line that changes to the application folder ("C:\Program Files" gives "cd\Progra~1\"): long names
 /// are shortened as shortFolderName does.

@@ -8,25 +8,17 @@
 
 namespace kav {
 
-inline constexpr std::string_view kProgramNameTitle = "Compile Program";
-inline constexpr std::string_view kProgramNamePrompt = "Enter Program Name";
-inline constexpr std::string_view kProgramNameTooLong = "Program name must 8 chars or less.";
+inline constexpr const char* kNameTitle = "Compile Program";
+inline constexpr const char* kNamePrompt = "Enter Program Name";
+/// The prompt once an answer was too long.
+inline constexpr const char* kNameTooLongPrompt = "Program name must 8 chars or less.";
 inline constexpr std::size_t kLongestProgramName = 8;
 
-/// One showing of the input box.
-struct NameQuestion {
-    std::string prompt;
-    std::string defaultAnswer;
-};
+/// True for an answer that is taken at once: one of at most 8 code points, an empty one too.
+[[nodiscard]] bool fitsProgramName(std::string_view answer);
 
-/// The first question, which offers the name that the document was last built with.
-[[nodiscard]] NameQuestion firstNameQuestion(std::string_view storedName);
-
-/// True for an answer of at most 8 code points, and so for an empty one.
-[[nodiscard]] bool acceptName(std::string_view answer);
-
-/// The question that follows an answer which was too long: it offers the answer's first 8 code points.
-[[nodiscard]] NameQuestion nextNameQuestion(std::string_view answer);
+/// What the next question offers when an answer was too long: its first 8 code points.
+[[nodiscard]] std::string shortenedProgramName(std::string_view answer);
 
 /// False for a name that would lead a build's files out of the application folder or break the script's
 /// lines: one with a slash, a backslash, a colon or a control character, and the names "." and "..".

@@ -12,18 +12,15 @@ namespace kav {
 /// What a trigger phrase does to the document.
 struct HiddenText {
     enum class Effect {
-        ItalicVerse,   ///< italic from now on, and the replacement
-        BoldVerse,     ///< bold from now on, and the replacement
-        Replace,       ///< the replacement alone
-        StartBrowser,  ///< start kLaughCommandLine in a maximized window; the text stays
+        None,     ///< the replacement alone
+        Italic,   ///< italic from now on, and the replacement
+        Bold,     ///< bold from now on, and the replacement
+        Browser,  ///< start the command line in a maximized window; the text stays
     };
-    Effect effect = Effect::Replace;
-    std::string replacement;  ///< empty for StartBrowser
+    Effect effect = Effect::None;
+    std::string replacement;
+    std::string commandLine;  ///< for Browser alone
 };
-
-/// What "Make me laugh" starts.
-inline constexpr std::string_view kLaughCommandLine =
-    "C:\\Program Files\\Internet Explorer\\iexplore.exe https://www.kav-compiler.example/laugh";
 
 /// The hidden text that `text`, as a whole, letter for letter, triggers.
 [[nodiscard]] std::optional<HiddenText> hiddenTextFor(std::string_view text, double usageSeconds);

@@ -8,10 +8,10 @@
 
 namespace kav {
 
-inline constexpr std::string_view kDescriptionPrompt = "Enter Program Shell Description";
-inline constexpr std::string_view kDescriptionDefault = "TITLE";
-inline constexpr std::string_view kNewKavTitle = "New KAV File";
-inline constexpr std::string_view kNewIonTitle = "New Ion File";
+inline constexpr const char* kDescriptionPrompt = "Enter Program Shell Description";
+inline constexpr const char* kDescriptionDefault = "TITLE";
+inline constexpr const char* kNewKavTitle = "New KAV File";
+inline constexpr const char* kNewIonTitle = "New Ion File";
 
 /// The description in the user's answer: its first 25 code points, or nothing when it is empty.
 [[nodiscard]] std::optional<std::string> descriptionFrom(std::string_view answer);

@@ -5,14 +5,15 @@
 #include "runtime/local_time.h"
 
 #include <optional>
+#include <string>
 #include <string_view>
 
 namespace kav {
 
 /// A message box that one date brings.
 struct DateNotice {
-    std::string_view title;
-    std::string_view text;
+    std::string title;
+    std::string text;
 };
 
 /// Put in front of the active document's text on New Year's Day, without a line break.

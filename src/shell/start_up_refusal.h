@@ -10,9 +10,9 @@ namespace kav {
 
 /// The steps of start-up that can end it.
 enum class StartUpStage {
-    Preferences,     ///< reading the preferences file
-    ProjectsFolder,  ///< making the projects folder on a first run
-    CommandLine,     ///< opening the file named on the command line
+    ReadPreferences,     ///< reading the preferences file
+    MakeProjectsFolder,  ///< making the projects folder on a first run
+    OpenCommandLine,     ///< opening the file named on the command line
 };
 
 /// Says what stands in the way of starting, where, and what to do about it. `path` is the file or folder
