@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// From a document to a calculator program, or to a list of errors.
+#pragma once
+
+#include "build/build_files.h"
+
+#include <functional>
+#include <string>
+
+#include <QTimer>
+
+namespace kav {
+
+class Doc;
+class dbgr;
+class Workspace;
+
+/// Compile for Debug: asks for a name, writes what the build script needs, starts the script and polls for
+/// its verdict; then offers the program files to be saved, or the errors to be made tasks.
+class BuildCommands {
+  public:
+    /// `taskList` gives the task list window, which is made when it is first needed.
+    BuildCommands(Workspace& workspace, std::function<dbgr&()> taskList);
+
+    void comp_Click();
+
+    /// Polls for the script's verdict every 100 ms while a build runs.
+    [[nodiscard]] QTimer& comptime() { return comptime_; }
+    void comptime_Timer();
+
+    [[nodiscard]] const BuildState& state() const { return state_; }
+
+  private:
+    void request();
+    void poll();
+    std::string askForName(const std::string& defaultName);
+    void startBuild(const std::string& name, const Doc& document);
+    void succeed();
+    void saveProgram(const char* title, const char* filter, const std::string& extension);
+    void fail();
+    void importErrors();
+
+    Workspace& workspace_;
+    std::function<dbgr&()> taskList_;
+    BuildState state_;
+    QTimer comptime_;
+};
+
+}  // namespace kav

@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// One open source file.
+#pragma once
+
+#include <string>
+
+#include <QMdiSubWindow>
+#include <QTimer>
+
+namespace kav {
+
+class TextBox;
+class Workspace;
+
+/// A document window: it holds one text, carries number and name in its caption, knows whether the text was
+/// changed since it was loaded or saved, asks before it closes, and comes to the front when its number is
+/// called.
+class Doc : public QMdiSubWindow {
+    Q_OBJECT
+
+  public:
+    explicit Doc(Workspace& workspace);
+
+    [[nodiscard]] TextBox& txt() const { return *txt_; }
+
+    /// "Doc ", the number, a TAB and the name, as bytes.
+    [[nodiscard]] const std::string& caption() const { return caption_; }
+    void setCaption(const std::string& caption);
+
+    [[nodiscard]] bool isModified() const;
+
+    /// The program name that this document was last built under.
+    std::string Tag;
+
+    /// Watches for the document number that the task list asks for, until it is taken or proves another's.
+    void watchForRequest();
+
+    /// Makes this the active document and puts the caret into its text.
+    void takeFocus();
+
+  protected:
+    void resizeEvent(QResizeEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+
+  private:
+    void txt_Change();
+    void Timer1_Timer();
+    void fitTextBox();
+
+    Workspace& workspace_;
+    QWidget* client_;
+    TextBox* txt_;
+    QTimer Timer1;
+    std::string caption_;
+};
+
+}  // namespace kav

@@ -1,0 +1,125 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The text box of a document window: bytes in, bytes out.
+#include "documents/text_box.h"
+
+#include <algorithm>
+
+#include <Qsci/qscicommand.h>
+#include <Qsci/qscicommandset.h>
+
+namespace kav {
+
+namespace {
+
+constexpr int kSmallestFont = 6;
+constexpr int kLargestFont = 96;
+
+}  // namespace
+
+TextBox::TextBox(QWidget* parent) : QsciScintilla(parent) {
+    setObjectName("txt");
+    setUtf8(true);
+    setEolMode(EolWindows);
+    setMarginWidth(1, 0);
+    setFrameShape(QFrame::NoFrame);
+    // The horizontal scroll bar follows the longest line seen, rather than a fixed width.
+    SendScintilla(SCI_SETSCROLLWIDTH, 1UL);
+    SendScintilla(SCI_SETSCROLLWIDTHTRACKING, 1UL);
+
+    changeNotice_.setSingleShot(true);
+    changeNotice_.setInterval(0);
+    connect(&changeNotice_, &QTimer::timeout, this, &TextBox::sendChanged);
+    connect(this, &QsciScintillaBase::SCN_MODIFIED, this,
+            [this](int, int modificationType) { noteModification(modificationType); });
+}
+
+std::string TextBox::bytes() const {
+    std::string text(byteLength(), '\0');
+    // The text box writes a NUL behind the last byte, where the string keeps one anyway.
+    SendScintilla(SCI_GETTEXT, static_cast<uintptr_t>(text.size() + 1), static_cast<void*>(text.data()));
+    return text;
+}
+
+std::size_t TextBox::byteLength() const { return static_cast<std::size_t>(SendScintilla(SCI_GETLENGTH)); }
+
+void TextBox::setBytes(std::string_view text) {
+    SendScintilla(SCI_SETUNDOCOLLECTION, 0UL);
+    SendScintilla(SCI_CLEARALL);
+    SendScintilla(SCI_ADDTEXT, static_cast<uintptr_t>(text.size()), text.data());
+    SendScintilla(SCI_SETUNDOCOLLECTION, 1UL);
+    SendScintilla(SCI_EMPTYUNDOBUFFER);
+    SendScintilla(SCI_GOTOPOS, 0UL);
+    sendChanged();
+}
+
+std::size_t TextBox::selStart() const { return static_cast<std::size_t>(SendScintilla(SCI_GETSELECTIONSTART)); }
+
+std::size_t TextBox::selLength() const {
+    return static_cast<std::size_t>(SendScintilla(SCI_GETSELECTIONEND)) - selStart();
+}
+
+std::string TextBox::selText() const {
+    const std::size_t start = selStart();
+    const std::size_t length = selLength();
+    if (length == 0) return {};
+    const auto* text = reinterpret_cast<const char*>(SendScintillaPtrResult(SCI_GETCHARACTERPOINTER));
+    return {text + start, length};
+}
+
+void TextBox::setSelStart(std::size_t start) {
+    SendScintilla(SCI_GOTOPOS, static_cast<uintptr_t>(std::min(start, byteLength())));
+}
+
+void TextBox::setSelLength(std::size_t length) {
+    const std::size_t start = selStart();
+    const std::size_t end = start + std::min(length, byteLength() - start);
+    SendScintilla(SCI_SETSEL, static_cast<uintptr_t>(start), static_cast<intptr_t>(end));
+}
+
+void TextBox::replaceSelection(std::string_view text) {
+    const std::size_t start = selStart();
+    SendScintilla(SCI_BEGINUNDOACTION);
+    SendScintilla(SCI_SETTARGETRANGE, static_cast<uintptr_t>(start), static_cast<intptr_t>(start + selLength()));
+    SendScintilla(SCI_REPLACETARGET, static_cast<uintptr_t>(text.size()), text.data());
+    SendScintilla(SCI_ENDUNDOACTION);
+    setSelStart(start + text.size());
+    if (changeNotice_.isActive()) sendChanged();
+}
+
+void TextBox::setTextFont(const std::string& name, int size) {
+    SendScintilla(SCI_STYLESETFONT, static_cast<uintptr_t>(STYLE_DEFAULT), name.c_str());
+    SendScintilla(SCI_STYLESETSIZE, static_cast<uintptr_t>(STYLE_DEFAULT),
+                  static_cast<intptr_t>(std::clamp(size, kSmallestFont, kLargestFont)));
+    applyToAllStyles();
+}
+
+void TextBox::setTextItalic(bool italic) {
+    SendScintilla(SCI_STYLESETITALIC, static_cast<uintptr_t>(STYLE_DEFAULT), static_cast<intptr_t>(italic));
+    applyToAllStyles();
+}
+
+void TextBox::setTextBold(bool bold) {
+    SendScintilla(SCI_STYLESETBOLD, static_cast<uintptr_t>(STYLE_DEFAULT), static_cast<intptr_t>(bold));
+    applyToAllStyles();
+}
+
+void TextBox::applyToAllStyles() { SendScintilla(SCI_STYLECLEARALL); }
+
+void TextBox::releaseKey(const QKeySequence& key) {
+    const QKeyCombination combination = key[0];
+    if (QsciCommand* command = standardCommands()->boundTo(combination.toCombined())) command->setKey(0);
+}
+
+void TextBox::noteModification(int modificationType) {
+    if ((modificationType & (SC_MOD_INSERTTEXT | SC_MOD_DELETETEXT)) == 0) return;
+    Tag = "1";
+    changeNotice_.start();
+}
+
+void TextBox::sendChanged() {
+    changeNotice_.stop();
+    Tag = "1";
+    emit changed();
+}
+
+}  // namespace kav

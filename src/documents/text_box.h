@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The text box of a document window: bytes in, bytes out.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+
+#include <QTimer>
+#include <Qsci/qsciscintilla.h>
+
+namespace kav {
+
+/// A multi-line text box whose content is bytes: CR LF counts two, every byte is kept. Positions are
+/// 0-based byte offsets.
+class TextBox : public QsciScintilla {
+    Q_OBJECT
+
+  public:
+    explicit TextBox(QWidget* parent = nullptr);
+
+    /// The document's modified marker, "1" or "0".
+    std::string Tag;
+
+    /// The whole text.
+    [[nodiscard]] std::string bytes() const;
+
+    /// Length of the text in bytes.
+    [[nodiscard]] std::size_t byteLength() const;
+
+    /// Replaces the whole text. There is no undo back into the text before.
+    void setBytes(std::string_view text);
+
+    [[nodiscard]] std::size_t selStart() const;
+    [[nodiscard]] std::size_t selLength() const;
+    [[nodiscard]] std::string selText() const;
+
+    /// Puts the caret at `start`, with nothing selected. Positions beyond the end are the end.
+    void setSelStart(std::size_t start);
+
+    /// Selects `length` bytes from selStart() on, up to the end of the text, and scrolls there.
+    void setSelLength(std::size_t length);
+
+    /// Puts the text in place of the selection, the caret behind it.
+    void replaceSelection(std::string_view text);
+
+    /// Font name and size in points; a size that cannot be read is brought within what can.
+    void setTextFont(const std::string& name, int size);
+    void setTextItalic(bool italic);
+    void setTextBold(bool bold);
+
+    /// Leaves the key to the menus: the box has no command of its own for it.
+    void releaseKey(const QKeySequence& key);
+
+  signals:
+    /// The text has changed, by a key or by the program. Sent once the change is complete.
+    void changed();
+
+  private:
+    void noteModification(int modificationType);
+    void sendChanged();
+    void applyToAllStyles();
+
+    /// Changes from keys are announced when the text box is done with them: it must not be changed within.
+    QTimer changeNotice_;
+};
+
+}  // namespace kav

@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Starts the application and ends it on a failure that nobody caught.
+#include <exception>
+#include <string>
+
+#include "platform/desktop/desktop_boxes.h"
+#include "platform/desktop/desktop_environment.h"
+#include "platform/desktop/desktop_file_chooser.h"
+#include "platform/desktop/desktop_services.h"
+#include "platform/desktop/text_conversion.h"
+#include "platform/linux/linux_launcher.h"
+#include "runtime/failure.h"
+#include "shell/application.h"
+#include "shell/main_window.h"
+
+namespace {
+
+/// The whole command line behind the program's name: one path, blanks and all.
+std::string commandLineOf(int argumentCount, char** arguments) {
+    std::string line;
+    for (int i = 1; i < argumentCount; ++i) {
+        if (i > 1) line += ' ';
+        line += arguments[i];
+    }
+    return line;
+}
+
+}  // namespace
+
+int main(int argumentCount, char** arguments) {
+    // The toolkit takes its own options out of the line first.
+    kav::Application application(argumentCount, arguments);
+    const kav::ApplicationFolder folder(kav::pathBytes(QCoreApplication::applicationDirPath()));
+    kav::DesktopBoxes boxes;
+    kav::DesktopFileChooser fileChooser;
+    kav::LinuxLauncher launcher(folder);
+    kav::DesktopClipboard clipboard;
+    kav::SystemClock clock;
+    kav::SeededRandomNumbers random;
+    kav::DesktopEnvironment environment;
+    try {
+        kav::Compiler compiler({boxes, fileChooser, launcher, clipboard, clock, random, environment}, folder);
+        compiler.show();
+        compiler.load(commandLineOf(argumentCount, arguments));
+        return kav::Application::exec();
+    } catch (const kav::Failure& failure) {
+        kav::Application::endWithFailure(failure.description());
+    } catch (const std::exception& error) {
+        kav::Application::endWithFailure(std::string("Unexpected error: ") + error.what());
+    }
+}

@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The toolkit's file dialog.
+#include "platform/desktop/desktop_file_chooser.h"
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QFileInfo>
+
+#include "platform/desktop/text_conversion.h"
+
+namespace kav {
+
+namespace {
+
+/// The patterns of a filter such as "Asm (*.asm *.inc)".
+QStringList patternsOf(const QString& nameFilter) {
+    const qsizetype open = nameFilter.lastIndexOf('(');
+    return nameFilter.mid(open + 1).chopped(1).split(' ');
+}
+
+QStringList nameFiltersOf(const std::string& filter) {
+    const QStringList fields = shown(filter).split('|');
+    QStringList nameFilters;
+    for (qsizetype i = 0; i + 1 < fields.size(); i += 2) {
+        // The captions name their patterns already; the dialog wants them behind the caption once.
+        const QString caption = fields[i].section('(', 0, 0).trimmed();
+        // "*.*" means every file here, with or without a dot.
+        const QString patterns = fields[i + 1] == "*.*" ? QString("*") : fields[i + 1];
+        nameFilters << caption + " (" + QString(patterns).replace(';', ' ') + ")";
+    }
+    return nameFilters;
+}
+
+/// The ending that a name gets which is typed without one.
+QString suffixOf(const QString& nameFilter) {
+    const QString first = patternsOf(nameFilter).value(0);
+    return first.startsWith("*.") ? first.mid(2) : QString();
+}
+
+void presetName(QFileDialog& dialog, const FileQuestion& question) {
+    const QString preset = pathString(question.fileName);
+    const QFileInfo info(preset);
+    if (info.isAbsolute() && info.dir().exists()) dialog.setDirectory(info.dir());
+    if (!info.fileName().isEmpty()) dialog.selectFile(info.fileName());
+}
+
+}  // namespace
+
+std::optional<std::string> DesktopFileChooser::choose(const FileQuestion& question) {
+    QFileDialog dialog(QApplication::activeWindow());
+    dialog.setObjectName("CommonDialog");
+    dialog.setOption(QFileDialog::DontUseNativeDialog);
+    dialog.setWindowTitle(shown(question.title));
+    const bool saves = question.kind == FileQuestion::Kind::Save;
+    dialog.setAcceptMode(saves ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+    dialog.setFileMode(saves ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+    dialog.setDirectory(pathString(question.initialFolder));
+    const QStringList nameFilters = nameFiltersOf(question.filter);
+    dialog.setNameFilters(nameFilters);
+    presetName(dialog, question);
+    if (saves && !nameFilters.isEmpty()) {
+        dialog.setDefaultSuffix(suffixOf(nameFilters.first()));
+        QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog,
+                         [&dialog](const QString& chosen) { dialog.setDefaultSuffix(suffixOf(chosen)); });
+    }
+    if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+    return pathBytes(dialog.selectedFiles().value(0));
+}
+
+}  // namespace kav

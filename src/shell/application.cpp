@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The running program, and what happens to a failure that nobody caught.
+#include "shell/application.h"
+
+#include <cstdlib>
+#include <exception>
+#include <iostream>
+
+#include <QMessageBox>
+#include <QStyleFactory>
+
+#include "platform/desktop/text_conversion.h"
+#include "runtime/failure.h"
+#include "shell/document_frame_style.h"
+
+namespace kav {
+
+Application::Application(int& argumentCount, char** arguments) : QApplication(argumentCount, arguments) {
+    setApplicationName("kav-compiler");
+    setApplicationDisplayName("KAV Compiler");
+    setStyle(new DocumentFrameStyle);
+}
+
+bool Application::notify(QObject* receiver, QEvent* event) {
+    try {
+        return QApplication::notify(receiver, event);
+    } catch (const Failure& failure) {
+        endWithFailure("Run-time error " + std::to_string(failure.number()) + ": " + failure.description());
+    } catch (const std::exception& error) {
+        endWithFailure(std::string("Unexpected error: ") + error.what());
+    }
+}
+
+void Application::endWithFailure(const std::string& message) {
+    std::cerr << "kav-compiler: " << message << std::endl;
+    QMessageBox box(QMessageBox::Critical, "KAV Compiler", shown(message), QMessageBox::Ok);
+    box.setTextFormat(Qt::PlainText);
+    box.exec();
+    std::_Exit(EXIT_FAILURE);
+}
+
+}  // namespace kav

@@ -1,0 +1,157 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The one top-level window: its operations, commands and end.
+#include "shell/main_window.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QLabel>
+#include <QMdiArea>
+#include <QStatusBar>
+
+#include "documents/caption.h"
+#include "documents/document_window.h"
+#include "documents/text_box.h"
+#include "platform/desktop/text_conversion.h"
+#include "runtime/files.h"
+#include "shell/document_arrangement.h"
+#include "shell/failure_report.h"
+#include "shell/menu_table.h"
+#include "tasks/task_list_window.h"
+
+namespace kav {
+
+Compiler::Compiler(Platform platform, ApplicationFolder applicationFolder)
+    : platform_(platform),
+      applicationFolder_(std::move(applicationFolder)),
+      cd_(platform_.fileChooser),
+      openSave_(*this),
+      templates_(*this),
+      build_(*this, [this]() -> dbgr& { return taskList(); }),
+      documents_(new QMdiArea(this)) {
+    setObjectName("Compiler");
+    setWindowTitle("KAV Compiler by Tamsin Orrel");
+    setCentralWidget(documents_);
+    documents_->setObjectName("documents");
+    documents_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    documents_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    resize(900, 640);
+    addHandlers();
+    buildMenus();
+    makeStatusBar();
+    sur.setObjectName("sur");
+    sur.setInterval(1000);
+    connect(&sur, &QTimer::timeout, this, [this] { ++values_.usageSeconds; });
+}
+
+Compiler::~Compiler() {
+    // Documents refer to the shared values until they are gone.
+    delete documents_;
+}
+
+void Compiler::makeStatusBar() {
+    statusBar()->setObjectName("stat");
+    firstPanel_ = new QLabel(this);
+    firstPanel_->setObjectName("stat1");
+    firstPanel_->setTextFormat(Qt::PlainText);
+    // A long text must not widen the window.
+    firstPanel_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    statusBar()->addWidget(firstPanel_, 1);
+}
+
+Doc* Compiler::activeDocument() { return qobject_cast<Doc*>(documents_->currentSubWindow()); }
+
+void Compiler::newfile(const std::string& text) {
+    ++values_.documentCounter;
+    ++values_.openDocuments;
+    auto* document = new Doc(*this);
+    documents_->addSubWindow(document);
+    for (const MenuEntry& entry : menuTable()) {
+        if (!entry.shortcut.empty()) {
+            document->txt().releaseKey(QKeySequence(shown(std::string(entry.shortcut))));
+        }
+    }
+    document->resize(initialDocumentSize(documents_->viewport()->size()));
+    document->show();
+    document->txt().setBytes(text);
+    document->setCaption(documentCaption(values_.documentCounter, values_.nextDocumentTitle));
+    document->takeFocus();
+    document->txt().Tag = "0";
+    if (values_.gotoDocument != "0") document->watchForRequest();
+}
+
+void Compiler::settop(const std::string& path) {
+    recentFiles_.push(path);
+    showRecentFiles();
+}
+
+void Compiler::doerr(const std::string& handler, int number, const std::string& description) {
+    const BoxAnswer answer = platform_.boxes.show({failureMessage(handler, number, description),
+                                                   kFailureTitle, BoxIcon::Exclamation,
+                                                   BoxButtons::AbortRetryIgnore, BoxAnswer::Ignore});
+    if (answer == BoxAnswer::Abort) platform_.environment.endAtOnce(EXIT_FAILURE);
+    if (answer != BoxAnswer::Retry) return;
+    // The count is part of the line's form; nothing advances it.
+    constexpr int kErrorCount = 0;
+    const std::string windir = platform_.environment.variable("windir");
+    const std::string desktop =
+        windir.empty() ? platform_.environment.desktopFolder() : ApplicationFolder(windir).file("Desktop");
+    appendToFile(ApplicationFolder(desktop).file(std::string(kFailureLogName)),
+                 failureLogLine(handler, number, description, platform_.clock.now(), kErrorCount));
+}
+
+void Compiler::requestDocument(const std::string& number) {
+    values_.gotoDocument = number;
+    for (QMdiSubWindow* window : documents_->subWindowList()) {
+        if (auto* document = qobject_cast<Doc*>(window)) document->watchForRequest();
+    }
+}
+
+void Compiler::showStatus(const std::string& text) { firstPanel_->setText(shown(text)); }
+
+dbgr& Compiler::taskList() {
+    if (taskList_ == nullptr) {
+        taskList_ = new dbgr(*this, this);
+        connect(taskList_, &dbgr::visibilityChanged, menuItem("vew_task"), &QAction::setChecked);
+    }
+    return *taskList_;
+}
+
+void Compiler::bye_Click() { close(); }
+
+void Compiler::arr_Click(int arrangement) { arrangeDocuments(*documents_, Arrangement(arrangement)); }
+
+void Compiler::vew_task_Click() {
+    // The toolkit has flipped the check mark already; showing and hiding the list sets it again.
+    if (taskList().isVisible()) {
+        taskList().hide();
+    } else {
+        taskList().showList();
+    }
+}
+
+void Compiler::closeEvent(QCloseEvent* event) {
+    if (!closeDocuments()) {
+        event->ignore();
+        return;
+    }
+    shutDown();
+    event->accept();
+}
+
+bool Compiler::closeDocuments() {
+    for (QMdiSubWindow* window : documents_->subWindowList()) {
+        if (!window->close()) return false;
+    }
+    return true;
+}
+
+void Compiler::shutDown() {
+    sur.stop();
+    build_.comptime().stop();
+    preferences_.usageSeconds = values_.usageSeconds;
+    preferences_.recentFiles = recentFiles_.items();
+    writeFile(applicationFolder_.file("prefs.ini"), formatPreferences(preferences_));
+    platform_.environment.end(EXIT_SUCCESS);
+}
+
+}  // namespace kav

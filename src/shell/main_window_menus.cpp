@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The main window's menus: which handler each entry runs, and the tree that the table describes.
+#include <QAction>
+#include <QMenu>
+#include <QMenuBar>
+
+#include "platform/desktop/text_conversion.h"
+#include "shell/main_window.h"
+#include "shell/menu_table.h"
+
+namespace kav {
+
+void Compiler::addHandler(const std::string& name, Handler handler, int index) {
+    handlers_.emplace(std::pair(name, index), std::move(handler));
+}
+
+void Compiler::addHandlers() {
+    addHandler("newer", [this] { templates_.newer_Click(); });
+    addHandler("newion", [this] { templates_.newion_Click(); });
+    addHandler("newasm", [this] { templates_.newasm_Click(); });
+    addHandler("load", [this] { openSave_.load_Click(); });
+    addHandler("svenotas", [this] { openSave_.svenotas_Click(); });
+    addHandler("stpf", [this] { openSave_.stpf_Click(); });
+    addHandler("sve", [this] { openSave_.sve_Click(); });
+    addHandler("comp", [this] { build_.comp_Click(); });
+    for (std::size_t slot = 1; slot <= RecentFiles::kCount; ++slot) {
+        addHandler("fil", [this, slot] { openSave_.fil_Click(recentFiles_.item(slot)); }, static_cast<int>(slot));
+    }
+    addHandler("bye", [this] { bye_Click(); });
+    addHandler("vew_task", [this] { vew_task_Click(); });
+    for (int index = 0; index <= 3; ++index) {
+        addHandler("arr", [this, index] { arr_Click(index); }, index);
+    }
+}
+
+void Compiler::buildMenus() {
+    QMenu* menu = nullptr;
+    for (const MenuEntry& entry : menuTable()) {
+        if (entry.depth > 0) {
+            addMenuEntry(*menu, entry);
+            continue;
+        }
+        const QString name = shown(std::string(entry.name));
+        // A hidden top menu is no part of the bar: it pops up where it is asked for.
+        menu = new QMenu(shown(std::string(entry.caption)), this);
+        menu->setObjectName(name);
+        menu->menuAction()->setObjectName(name);
+        if (entry.visible) menuBar()->addMenu(menu);
+        menuItems_.emplace(std::pair(std::string(entry.name), entry.index), menu->menuAction());
+    }
+}
+
+void Compiler::addMenuEntry(QMenu& menu, const MenuEntry& entry) {
+    QAction* item = entry.separator ? menu.addSeparator() : menu.addAction(shown(std::string(entry.caption)));
+    const std::pair key(std::string(entry.name), entry.index);
+    item->setObjectName(shown(key.first));
+    item->setVisible(entry.visible);
+    item->setCheckable(entry.checkable);
+    if (!entry.shortcut.empty()) item->setShortcut(QKeySequence(shown(std::string(entry.shortcut))));
+    menuItems_.emplace(key, item);
+    if (entry.separator) return;
+    // An entry that nothing answers yet is there, and cannot be chosen.
+    const auto handler = handlers_.find(key);
+    item->setEnabled(handler != handlers_.end());
+    if (handler != handlers_.end()) connect(item, &QAction::triggered, this, handler->second);
+}
+
+QAction* Compiler::menuItem(const std::string& name, int index) const {
+    return menuItems_.at(std::pair(name, index));
+}
+
+}  // namespace kav
