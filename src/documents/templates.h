@@ -17,9 +17,9 @@ inline constexpr const char* kNewIonTitle = "New Ion File";
 [[nodiscard]] std::optional<std::string> descriptionFrom(std::string_view answer);
 
 /// A program for the KAV shell. The description is inserted as it stands.
-[[nodiscard]] std::string kavTemplate(std::string_view description);
+[[nodiscard]] std::string kavTemplate(const std::string& description);
 
 /// A program for the Ion shell. The description is inserted as it stands.
-[[nodiscard]] std::string ionTemplate(std::string_view description);
+[[nodiscard]] std::string ionTemplate(const std::string& description);
 
 }  // namespace kav

@@ -9,7 +9,7 @@
 
 namespace kav {
 
-inline constexpr std::string_view kFailureTitle = "Non Fatal Error - KAV Compiler";
+inline constexpr const char* kFailureTitle = "Non Fatal Error - KAV Compiler";
 inline constexpr std::string_view kFailureLogName = "kaverr.log";
 
 /// The text of the reporter's box: what to do, two line feeds, and the failure itself.

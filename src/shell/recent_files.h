@@ -30,7 +30,7 @@ class RecentFiles {
     [[nodiscard]] bool visible(std::size_t slot) const { return !item(slot).empty(); }
 
     [[nodiscard]] bool separatorVisible() const { return separatorVisible_; }
-    [[nodiscard]] const std::array<std::string, kCount>& paths() const { return paths_; }
+    [[nodiscard]] const std::array<std::string, kCount>& items() const { return paths_; }
 
   private:
     std::array<std::string, kCount> paths_;

@@ -57,7 +57,7 @@ class TaskList {
 
   private:
     void writeBack(const TaskBoxes& boxes);
-    [[nodiscard]] Task& at(std::size_t index);
+    void requireTask(std::size_t index) const;
 
     std::vector<Task> tasks_;
     std::size_t loadedIndex_ = 0;  // 0: none yet
