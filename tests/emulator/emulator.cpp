@@ -230,8 +230,8 @@ void Emulator::spoil(std::initializer_list<int> registers) {
 }
 
 bool Emulator::pixel(int x, int y) const {
-    const auto byte = static_cast<std::size_t>(y * 12 + x / 8);
-    return (display_.at(byte) & (0x80 >> (x % 8))) != 0;
+    const int byte = y * 12 + x / 8;
+    return (display_.at(static_cast<std::size_t>(byte)) & (0x80 >> (x % 8))) != 0;
 }
 
 int Emulator::darkPixels() const {
