@@ -34,6 +34,7 @@ class Doc : public QMdiSubWindow {
 
     /// Watches for the document number that the task list asks for, until it is taken or proves another's.
     void watchForRequest();
+    [[nodiscard]] bool watchesForRequest() const { return Timer1.isActive(); }
 
     /// Makes this the active document and puts the caret into its text.
     void takeFocus();

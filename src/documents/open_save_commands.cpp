@@ -41,7 +41,7 @@ void OpenSaveCommands::load_Click() {
     });
 }
 
-void OpenSaveCommands::fil_Click(const std::string& path) {
+void OpenSaveCommands::fil_Click(std::string path) {
     trapped(workspace_, "fil_Click", [&] {
         const std::string text = readFile(path);
         workspace_.settop(path);

@@ -16,8 +16,8 @@ class OpenSaveCommands {
     explicit OpenSaveCommands(Workspace& workspace) : workspace_(workspace) {}
 
     void load_Click();
-    /// Opens the recent file of that path.
-    void fil_Click(const std::string& path);
+    /// Opens the recent file of that path. The path is a copy: opening moves the list that it comes from.
+    void fil_Click(std::string path);
     void svenotas_Click();
     void sve_Click();
     void stpf_Click();

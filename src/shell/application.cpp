@@ -17,7 +17,6 @@ namespace kav {
 
 Application::Application(int& argumentCount, char** arguments) : QApplication(argumentCount, arguments) {
     setApplicationName("kav-compiler");
-    setApplicationDisplayName("KAV Compiler");
     setStyle(new DocumentFrameStyle);
 }
 

@@ -71,8 +71,11 @@ void arrangeDocuments(QMdiArea& area, Arrangement arrangement) {
     if (active != nullptr) area.setActiveSubWindow(active);
 }
 
-QSize initialDocumentSize(const QSize& area) {
-    return {qMax(320, area.width() * 3 / 4), qMax(200, area.height() * 3 / 4)};
+QRect initialPlace(int number, const QSize& area) {
+    constexpr int kStep = 28;
+    constexpr int kStepsBeforeStartingOver = 5;
+    const int offset = (number - 1) % kStepsBeforeStartingOver * kStep;
+    return {offset, offset, qMax(320, area.width() * 3 / 4), qMax(200, area.height() * 3 / 4)};
 }
 
 }  // namespace kav

@@ -13,7 +13,8 @@ enum class Arrangement { Cascade = 0, TileHorizontally = 1, TileVertically = 2, 
 /// minimized ones along the lower edge.
 void arrangeDocuments(QMdiArea& area, Arrangement arrangement);
 
-/// The size that a new document window is given in an area of that size.
-[[nodiscard]] QSize initialDocumentSize(const QSize& area);
+/// Where the document window of that number first stands in an area of that size: one step further down and
+/// to the right than the one before, starting over after a few.
+[[nodiscard]] QRect initialPlace(int number, const QSize& area);
 
 }  // namespace kav

@@ -70,7 +70,7 @@ void Compiler::newfile(const std::string& text) {
             document->txt().releaseKey(QKeySequence(shown(std::string(entry.shortcut))));
         }
     }
-    document->resize(initialDocumentSize(documents_->viewport()->size()));
+    document->setGeometry(initialPlace(values_.documentCounter, documents_->viewport()->size()));
     document->show();
     document->txt().setBytes(text);
     document->setCaption(documentCaption(values_.documentCounter, values_.nextDocumentTitle));

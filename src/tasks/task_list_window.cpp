@@ -2,6 +2,8 @@
 // The checklist of notes and errors, each tied to a line of a document.
 #include "tasks/task_list_window.h"
 
+#include <algorithm>
+
 #include <QEvent>
 #include <QGridLayout>
 #include <QKeyEvent>
@@ -87,6 +89,7 @@ void dbgr::connectTree() {
     TreeView1->setHeaderHidden(true);
     TreeView1->setRootIsDecorated(false);
     TreeView1->installEventFilter(this);
+    TreeView1->setFocus();
     // A click and the arrow keys both pick a task.
     connect(TreeView1, &QTreeWidget::currentItemChanged, this, [this](const QTreeWidgetItem* item) {
         if (item != nullptr) TreeView1_NodeClick(selectedIndex());

@@ -7,6 +7,7 @@
 #include <QFileInfo>
 
 #include "platform/desktop/text_conversion.h"
+#include "platform/dialog_filter.h"
 
 namespace kav {
 
@@ -19,14 +20,14 @@ QStringList patternsOf(const QString& nameFilter) {
 }
 
 QStringList nameFiltersOf(const std::string& filter) {
-    const QStringList fields = shown(filter).split('|');
     QStringList nameFilters;
-    for (qsizetype i = 0; i + 1 < fields.size(); i += 2) {
-        // The captions name their patterns already; the dialog wants them behind the caption once.
-        const QString caption = fields[i].section('(', 0, 0).trimmed();
+    for (const DialogFilter& entry : parseFilter(filter)) {
+        QStringList patterns;
         // "*.*" means every file here, with or without a dot.
-        const QString patterns = fields[i + 1] == "*.*" ? QString("*") : fields[i + 1];
-        nameFilters << caption + " (" + QString(patterns).replace(';', ' ') + ")";
+        for (const std::string& pattern : entry.patterns) patterns << (pattern == "*.*" ? "*" : shown(pattern));
+        // The captions name their patterns already; the dialog shows them behind the caption once.
+        const QString caption = shown(entry.caption).section('(', 0, 0).trimmed();
+        nameFilters << caption + " (" + patterns.join(' ') + ")";
     }
     return nameFilters;
 }

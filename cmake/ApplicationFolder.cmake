@@ -1,0 +1,27 @@
+# The application folder in the build tree, and the same folder as it is installed. Programs are built right
+# into it; this adds what is copied. A preferences file that is there already belongs to the user and stays.
+file(GLOB KAV_INCLUDE_FILES CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/toolchain/include/*.inc)
+file(GLOB KAV_EXAMPLE_FILES CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/examples/*.z80)
+set(KAV_SCRIPT ${PROJECT_SOURCE_DIR}/toolchain/asm)
+set(KAV_FIRST_PREFERENCES ${PROJECT_SOURCE_DIR}/packaging/prefs.ini)
+
+add_custom_command(
+    OUTPUT ${KAV_APP_DIR}/copied.stamp
+    COMMAND ${CMAKE_COMMAND} -E make_directory ${KAV_APP_DIR}/include ${KAV_APP_DIR}/examples
+    COMMAND ${CMAKE_COMMAND} -E copy ${KAV_INCLUDE_FILES} ${KAV_APP_DIR}/include
+    COMMAND ${CMAKE_COMMAND} -E copy ${KAV_EXAMPLE_FILES} ${KAV_APP_DIR}/examples
+    COMMAND ${CMAKE_COMMAND} -E copy ${KAV_SCRIPT} ${KAV_APP_DIR}/asm
+    COMMAND ${CMAKE_COMMAND} -DFROM=${KAV_FIRST_PREFERENCES} -DTO=${KAV_APP_DIR}/prefs.ini
+            -P ${PROJECT_SOURCE_DIR}/cmake/CopyIfMissing.cmake
+    COMMAND ${CMAKE_COMMAND} -E touch ${KAV_APP_DIR}/copied.stamp
+    DEPENDS ${KAV_INCLUDE_FILES} ${KAV_EXAMPLE_FILES} ${KAV_SCRIPT} ${KAV_FIRST_PREFERENCES}
+    COMMENT "Filling the application folder"
+    VERBATIM)
+add_custom_target(kav_application_folder ALL DEPENDS ${KAV_APP_DIR}/copied.stamp)
+
+set(KAV_INSTALL_DIR ${CMAKE_INSTALL_LIBDIR}/kav-compiler)
+install(TARGETS kav-compiler kav-viewer kav-asm DESTINATION ${KAV_INSTALL_DIR})
+install(PROGRAMS ${KAV_SCRIPT} DESTINATION ${KAV_INSTALL_DIR})
+install(FILES ${KAV_FIRST_PREFERENCES} DESTINATION ${KAV_INSTALL_DIR})
+install(FILES ${KAV_INCLUDE_FILES} DESTINATION ${KAV_INSTALL_DIR}/include)
+install(FILES ${KAV_EXAMPLE_FILES} DESTINATION ${KAV_INSTALL_DIR}/examples)
