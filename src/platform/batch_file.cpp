@@ -74,7 +74,7 @@ std::vector<fs::path> fittingFolders(const fs::path& parent, std::string_view se
 fs::path resolveSegment(const fs::path& parent, std::string_view segment, const fs::path& onTheWay) {
     if (segment == "." || segment == "..") throw notAScript("folder names", segment);
     if (!onTheWay.empty() && fits(onTheWay, segment) && isFolder(onTheWay)) return onTheWay;
-    const fs::path exact = parent / pathOf(segment);
+    fs::path exact = parent / pathOf(segment);
     if (isFolder(exact)) return exact;
 
     const std::vector<fs::path> found = fittingFolders(parent, segment);
