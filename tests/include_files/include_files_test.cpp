@@ -46,6 +46,13 @@ TEST(IncludeFiles, CallsCanBeWrittenInCapitals) {
               (Bytes{0xCD, 0x0D, 0x47, 0xC3, 0x0D, 0x47}));
 }
 
+TEST(IncludeFiles, CallsCanBeWrittenWithoutParentheses) {
+    EXPECT_EQ(plus({"ti83plus.inc"}, " bcall _PutS\r\n B_CALL _PutS\r\n bjump _GetKey\r\n"),
+              (Bytes{0xEF, 0x0A, 0x45, 0xEF, 0x0A, 0x45, 0xCD, 0x50, 0x00, 0x72, 0x49}));
+    EXPECT_EQ(ti83({"ti83.inc"}, " bcall _puts\r\n bjump _puts\r\n"),
+              (Bytes{0xCD, 0x0D, 0x47, 0xC3, 0x0D, 0x47}));
+}
+
 TEST(IncludeFiles, Ti83CallsTheRomInPlace) {
     EXPECT_EQ(ti83({"ti83.inc"}, " bcall(_puts)\r\n bjump(_getkey)\r\n call _homeup\r\n"),
               (Bytes{0xCD, 0x0D, 0x47, 0xC3, 0xFE, 0x4C, 0xCD, 0x75, 0x47}));

@@ -36,7 +36,8 @@ std::optional<std::string> preferencesIn(const std::string& folder) {
 
 void removeOldPrograms(const std::string& folder, const std::string& name) {
     for (const Calculator calculator : kTargets) {
-        const std::string path = folder + "/" + name + programExtension(calculator);
+        std::string path = folder;
+        path.append("/").append(name).append(programExtension(calculator));
         if (fileExists(path)) removeFile(path);
     }
 }

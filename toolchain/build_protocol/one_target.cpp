@@ -16,6 +16,7 @@ constexpr std::size_t kTi83PlusCodeEnd = 0xC000;
 
 assembler::Options optionsFor(Calculator calculator) {
     assembler::Options options;
+    options.wantListing = true;
     options.defines.emplace_back(calculator == Calculator::Ti83 ? "TI83" : "TI83P", "");
     return options;
 }
