@@ -2,6 +2,7 @@
 #include "shell/preferences_file.h"
 
 #include "runtime/failure.h"
+#include "runtime/files.h"
 #include "runtime/lines.h"
 
 #include <gtest/gtest.h>
@@ -126,6 +127,10 @@ TEST(PreferencesFile, AValueWithALineBreakMovesNoOtherLine) {
     const Preferences read = parsePreferences(formatPreferences(preferences));
     EXPECT_EQ(read.recentFiles[0], "");
     EXPECT_EQ(read.recentFiles[1], "second");
+}
+
+TEST(PreferencesFile, IsInstalledWithTheValuesOfAFirstRun) {
+    EXPECT_EQ(readFile(KAV_INSTALLED_PREFERENCES), firstRunPreferences());
 }
 
 TEST(PreferencesFile, AsInstalledStartsAFirstRunThatMakesAn8xp) {

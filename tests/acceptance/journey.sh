@@ -1,0 +1,55 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+# What every acceptance journey starts with. Called with the application folder, the program that runs what
+# was built, and the folder for pictures. Each journey works in a copy of the application folder, on a path
+# that DOS names would have to shorten.
+set -euo pipefail
+project=$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")/../..
+. "$project/scripts/virtual_desktop.sh"
+
+built_application=$1 run_program=$2 pictures=$3
+rm -rf "$pictures"
+start_desktop
+application="$desktop_folder/Calculator Programs/KAV Compiler of mine"
+mkdir -p "$(dirname "$application")"
+cp -a "$built_application" "$application"
+rm -rf "$application/Projects" "$application"/*.z80 "$application"/*.8xp "$application/comp.bat"
+cp "$project/packaging/prefs.ini" "$application/prefs.ini"
+documents="$desktop_folder/documents"
+mkdir -p "$documents"
+
+# start_program [FILE]: starts it and waits for its window.
+start_program() {
+    "$application/kav-compiler" "$@" 2>"$desktop_folder/program.log" &
+    program=$!
+    wait_window "KAV Compiler"
+}
+
+# compile NAME: the keys that start a build.
+compile() {
+    key ctrl+l
+    wait_window "Compile Program"
+    type_text "$1"
+    key Return
+}
+
+# save_program PATH: answers the save dialog that follows a success.
+save_program() {
+    wait_window "Save Compiled TI-83+ Program"
+    key ctrl+a
+    type_text "$1"
+    key Return
+    wait_until 10 test -s "$1" || fail "no program file was saved at $1"
+    wait_window "KAV Compiler"
+}
+
+# end_program: closes the main window by its menu's Exit and waits for the end.
+end_program() {
+    key alt+F4
+    wait_until 10 program_has_ended || fail "the program did not end"
+    wait "$program" || fail "the program ended with exit code $?"
+    program=
+}
+
+program_has_ended() { ! kill -0 "$program" 2>/dev/null; }
+
+preference_line() { sed -n "${1}p" "$application/prefs.ini" | tr -d '\r'; }
