@@ -1,8 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Starts the application and ends it on a failure that nobody caught.
-#include <exception>
-#include <string>
-
 #include "platform/desktop/desktop_boxes.h"
 #include "platform/desktop/desktop_environment.h"
 #include "platform/desktop/desktop_file_chooser.h"
@@ -12,6 +9,9 @@
 #include "runtime/failure.h"
 #include "shell/application.h"
 #include "shell/main_window.h"
+
+#include <exception>
+#include <string>
 
 namespace {
 

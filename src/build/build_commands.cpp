@@ -2,8 +2,6 @@
 // From a document to a calculator program, or to a list of errors.
 #include "build/build_commands.h"
 
-#include <utility>
-
 #include "build/build_texts.h"
 #include "build/build_verdict.h"
 #include "build/listing_import.h"
@@ -17,13 +15,19 @@
 #include "shell/trapped.h"
 #include "tasks/task_list_window.h"
 
+#include <utility>
+
 namespace kav {
 
 namespace {
 
-std::string statusFile(const ApplicationFolder& folder) { return folder.file(std::string(kStatusFileName)); }
+std::string statusFile(const ApplicationFolder& folder) {
+    return folder.file(std::string(kStatusFileName));
+}
 
-std::string listingFile(const ApplicationFolder& folder) { return folder.file(std::string(kListingFileName)); }
+std::string listingFile(const ApplicationFolder& folder) {
+    return folder.file(std::string(kListingFileName));
+}
 
 /// The folder as the batch file names it: its own form on Windows, a drive that holds all elsewhere.
 std::string batchFolder(const ApplicationFolder& folder) {
@@ -61,7 +65,7 @@ void BuildCommands::request() {
 std::string BuildCommands::askForName(const std::string& defaultName) {
     InputBox box{kNamePrompt, kNameTitle, defaultName};
     for (;;) {
-        const std::string answer = workspace_.platform().boxes.ask(box);
+        std::string answer = workspace_.platform().boxes.ask(box);
         if (fitsProgramName(answer)) return answer;
         box.prompt = kNameTooLongPrompt;
         box.defaultText = shortenedProgramName(answer);
@@ -92,9 +96,15 @@ void BuildCommands::poll() {
     comptime_.stop();
     const Verdict verdict = verdictOf(readFile(statusFile(workspace_.applicationFolder())));
     switch (verdict) {
-        case Verdict::Running: comptime_.start(); return;
-        case Verdict::Success: succeed(); return;
-        case Verdict::Failure: fail(); return;
+        case Verdict::Running:
+            comptime_.start();
+            return;
+        case Verdict::Success:
+            succeed();
+            return;
+        case Verdict::Failure:
+            fail();
+            return;
     }
 }
 

@@ -2,9 +2,6 @@
 // One open source file.
 #include "documents/document_window.h"
 
-#include <QCloseEvent>
-#include <QMdiArea>
-
 #include "documents/caption.h"
 #include "documents/hidden_texts.h"
 #include "documents/text_box.h"
@@ -12,6 +9,9 @@
 #include "runtime/failure.h"
 #include "runtime/number_text.h"
 #include "shell/workspace.h"
+
+#include <QCloseEvent>
+#include <QMdiArea>
 
 namespace kav {
 
@@ -42,7 +42,9 @@ void Doc::setCaption(const std::string& caption) {
     setWindowTitle(shown(displayedCaption(caption)));
 }
 
-bool Doc::isModified() const { return numericValue(txt_->Tag) == 1.0; }
+bool Doc::isModified() const {
+    return numericValue(txt_->Tag) == 1.0;
+}
 
 void Doc::resizeEvent(QResizeEvent* event) {
     QMdiSubWindow::resizeEvent(event);
@@ -68,17 +70,24 @@ void Doc::txt_Change() {
     const auto hidden = hiddenTextFor(txt_->bytes(), workspace_.values().usageSeconds);
     if (!hidden) return;
     switch (hidden->effect) {
-        case HiddenText::Effect::Italic: txt_->setTextItalic(true); break;
-        case HiddenText::Effect::Bold: txt_->setTextBold(true); break;
+        case HiddenText::Effect::Italic:
+            txt_->setTextItalic(true);
+            break;
+        case HiddenText::Effect::Bold:
+            txt_->setTextBold(true);
+            break;
         case HiddenText::Effect::Browser:
             workspace_.platform().launcher.launch(hidden->commandLine, WindowStyle::MaximizedFocus);
             return;
-        case HiddenText::Effect::None: break;
+        case HiddenText::Effect::None:
+            break;
     }
     txt_->setBytes(hidden->replacement);
 }
 
-void Doc::watchForRequest() { Timer1.start(); }
+void Doc::watchForRequest() {
+    Timer1.start();
+}
 
 void Doc::Timer1_Timer() {
     SharedValues& values = workspace_.values();

@@ -40,7 +40,9 @@ std::string TextBox::bytes() const {
     return text;
 }
 
-std::size_t TextBox::byteLength() const { return static_cast<std::size_t>(SendScintilla(SCI_GETLENGTH)); }
+std::size_t TextBox::byteLength() const {
+    return static_cast<std::size_t>(SendScintilla(SCI_GETLENGTH));
+}
 
 void TextBox::setBytes(std::string_view text) {
     SendScintilla(SCI_SETUNDOCOLLECTION, 0UL);
@@ -52,7 +54,9 @@ void TextBox::setBytes(std::string_view text) {
     sendChanged();
 }
 
-std::size_t TextBox::selStart() const { return static_cast<std::size_t>(SendScintilla(SCI_GETSELECTIONSTART)); }
+std::size_t TextBox::selStart() const {
+    return static_cast<std::size_t>(SendScintilla(SCI_GETSELECTIONSTART));
+}
 
 std::size_t TextBox::selLength() const {
     return static_cast<std::size_t>(SendScintilla(SCI_GETSELECTIONEND)) - selStart();
@@ -79,7 +83,8 @@ void TextBox::setSelLength(std::size_t length) {
 void TextBox::replaceSelection(std::string_view text) {
     const std::size_t start = selStart();
     SendScintilla(SCI_BEGINUNDOACTION);
-    SendScintilla(SCI_SETTARGETRANGE, static_cast<uintptr_t>(start), static_cast<intptr_t>(start + selLength()));
+    SendScintilla(SCI_SETTARGETRANGE, static_cast<uintptr_t>(start),
+                  static_cast<intptr_t>(start + selLength()));
     SendScintilla(SCI_REPLACETARGET, static_cast<uintptr_t>(text.size()), text.data());
     SendScintilla(SCI_ENDUNDOACTION);
     setSelStart(start + text.size());
@@ -103,7 +108,9 @@ void TextBox::setTextBold(bool bold) {
     applyToAllStyles();
 }
 
-void TextBox::applyToAllStyles() { SendScintilla(SCI_STYLECLEARALL); }
+void TextBox::applyToAllStyles() {
+    SendScintilla(SCI_STYLECLEARALL);
+}
 
 void TextBox::releaseKey(const QKeySequence& key) {
     const QKeyCombination combination = key[0];

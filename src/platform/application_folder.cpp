@@ -12,7 +12,9 @@ ApplicationFolder::ApplicationFolder(std::string path) : path_(std::move(path)) 
     if (path_.size() > 1 && path_.back() == separator_) path_.pop_back();
 }
 
-std::string ApplicationFolder::file(const std::string& name) const { return path_ + separator_ + name; }
+std::string ApplicationFolder::file(const std::string& name) const {
+    return path_ + separator_ + name;
+}
 
 std::string ApplicationFolder::project(const std::string& name) const {
     const std::string folder = file("Projects");

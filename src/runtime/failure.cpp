@@ -40,14 +40,19 @@ Failure failureOf(FailureNumber number, const std::string& about) {
 
 Failure failureOfErrno(int errorNumber, const std::string& about) {
     switch (errorNumber) {
-        case ENOENT: return failureOf(kFileNotFound, about);
-        case ENOTDIR: return failureOf(kPathNotFound, about);
+        case ENOENT:
+            return failureOf(kFileNotFound, about);
+        case ENOTDIR:
+            return failureOf(kPathNotFound, about);
         case EACCES:
         case EPERM:
-        case EROFS: return failureOf(kPermissionDenied, about);
-        case ENOSPC: return failureOf(kDiskFull, about);
+        case EROFS:
+            return failureOf(kPermissionDenied, about);
+        case ENOSPC:
+            return failureOf(kDiskFull, about);
         case ENAMETOOLONG:
-        case EINVAL: return failureOf(kBadFileName, about);
+        case EINVAL:
+            return failureOf(kBadFileName, about);
         default: {
             const std::string reason = std::generic_category().message(errorNumber);
             return failureOf(kPathFileAccess, about + " (" + reason + ")");

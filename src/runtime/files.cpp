@@ -2,12 +2,12 @@
 // Files read and written whole, through the standard library.
 #include "runtime/files.h"
 
+#include "runtime/failure.h"
+
 #include <cerrno>
 #include <cstdio>
 #include <memory>
 #include <system_error>
-
-#include "runtime/failure.h"
 
 namespace kav {
 
@@ -126,7 +126,9 @@ void appendToFile(const std::string& path, std::string_view content) {
     writeAndClose(open(pathOf(path), "ab", path), content, path);
 }
 
-void copyFile(const std::string& from, const std::string& to) { writeFile(to, readFile(from)); }
+void copyFile(const std::string& from, const std::string& to) {
+    writeFile(to, readFile(from));
+}
 
 void removeFile(const std::string& path) {
     checkName(path);

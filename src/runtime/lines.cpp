@@ -37,7 +37,8 @@ std::optional<std::string_view> LineReader::next() {
 std::vector<std::string_view> linesOf(std::string_view text) {
     std::vector<std::string_view> lines;
     LineReader reader(text);
-    while (const auto line = reader.next()) lines.push_back(*line);
+    while (const auto line = reader.next())
+        lines.push_back(*line);
     return lines;
 }
 
@@ -52,13 +53,15 @@ std::string joinedLines(const std::vector<std::string_view>& lines) {
 
 std::string firstCharacters(std::string_view text, std::size_t count) {
     std::size_t end = 0;
-    for (; count > 0 && end < text.size(); --count) end += sequenceLength(text.substr(end));
+    for (; count > 0 && end < text.size(); --count)
+        end += sequenceLength(text.substr(end));
     return std::string(text.substr(0, end));
 }
 
 std::size_t characterCount(std::string_view text) {
     std::size_t count = 0;
-    for (; !text.empty(); ++count) text.remove_prefix(sequenceLength(text));
+    for (; !text.empty(); ++count)
+        text.remove_prefix(sequenceLength(text));
     return count;
 }
 

@@ -13,10 +13,13 @@ namespace kav {
 
 namespace {
 
-bool isBlank(char c) { return c == ' ' || c == '\t'; }
+bool isBlank(char c) {
+    return c == ' ' || c == '\t';
+}
 
 std::string_view withoutLeadingBlanks(std::string_view text) {
-    while (!text.empty() && isBlank(text.front())) text.remove_prefix(1);
+    while (!text.empty() && isBlank(text.front()))
+        text.remove_prefix(1);
     return text;
 }
 
@@ -33,8 +36,8 @@ Reading readNumber(std::string_view text) {
     if (digits.starts_with('+')) digits.remove_prefix(1);
     const std::string_view unsignedPart = digits.starts_with('-') ? digits.substr(1) : digits;
     const bool signTwice = text.starts_with('+') && digits.starts_with('-');
-    const bool numeric =
-        !unsignedPart.empty() && (unsignedPart[0] == '.' || (unsignedPart[0] >= '0' && unsignedPart[0] <= '9'));
+    const bool numeric = !unsignedPart.empty() &&
+                         (unsignedPart[0] == '.' || (unsignedPart[0] >= '0' && unsignedPart[0] <= '9'));
     if (!numeric || signTwice) return {0, text, false};
 
     double value = 0;
@@ -47,7 +50,9 @@ Reading readNumber(std::string_view text) {
 
 }  // namespace
 
-double numericValue(std::string_view text) { return readNumber(text).value; }
+double numericValue(std::string_view text) {
+    return readNumber(text).value;
+}
 
 std::optional<double> wholeNumber(std::string_view text) {
     const Reading reading = readNumber(text);
@@ -55,7 +60,9 @@ std::optional<double> wholeNumber(std::string_view text) {
     return reading.value;
 }
 
-bool flagValue(std::string_view text) { return numericValue(text) == 1.0; }
+bool flagValue(std::string_view text) {
+    return numericValue(text) == 1.0;
+}
 
 std::string plainDecimal(double value) {
     std::array<char, 32> buffer{};

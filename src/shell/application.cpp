@@ -2,6 +2,11 @@
 // The running program, and what happens to a failure that nobody caught.
 #include "shell/application.h"
 
+#include "platform/desktop/text_conversion.h"
+#include "runtime/failure.h"
+#include "shell/application_icon.h"
+#include "shell/document_frame_style.h"
+
 #include <cstdlib>
 #include <exception>
 #include <iostream>
@@ -9,14 +14,11 @@
 #include <QMessageBox>
 #include <QStyleFactory>
 
-#include "platform/desktop/text_conversion.h"
-#include "runtime/failure.h"
-#include "shell/document_frame_style.h"
-
 namespace kav {
 
 Application::Application(int& argumentCount, char** arguments) : QApplication(argumentCount, arguments) {
     setApplicationName("kav-compiler");
+    setWindowIcon(applicationIcon());
     setStyle(new DocumentFrameStyle);
 }
 

@@ -63,10 +63,18 @@ void arrangeDocuments(QMdiArea& area, Arrangement arrangement) {
     const Windows windows = windowsOf(area);
     QMdiSubWindow* active = area.currentSubWindow();
     switch (arrangement) {
-        case Arrangement::Cascade: area.cascadeSubWindows(); break;
-        case Arrangement::TileHorizontally: tile(windows.open, roomFor(area, windows), Qt::Horizontal); break;
-        case Arrangement::TileVertically: tile(windows.open, roomFor(area, windows), Qt::Vertical); break;
-        case Arrangement::ArrangeIcons: arrangeIcons(windows.icons, area.viewport()->rect()); break;
+        case Arrangement::Cascade:
+            area.cascadeSubWindows();
+            break;
+        case Arrangement::TileHorizontally:
+            tile(windows.open, roomFor(area, windows), Qt::Horizontal);
+            break;
+        case Arrangement::TileVertically:
+            tile(windows.open, roomFor(area, windows), Qt::Vertical);
+            break;
+        case Arrangement::ArrangeIcons:
+            arrangeIcons(windows.icons, area.viewport()->rect());
+            break;
     }
     if (active != nullptr) area.setActiveSubWindow(active);
 }

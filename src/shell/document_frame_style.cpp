@@ -17,9 +17,12 @@ DocumentFrameStyle::DocumentFrameStyle() : QProxyStyle("fusion") {}
 int DocumentFrameStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
                                     const QWidget* widget) const {
     switch (metric) {
-        case PM_MdiSubWindowFrameWidth: return kBorder;
-        case PM_TitleBarHeight: return kCaptionBar;
-        default: return QProxyStyle::pixelMetric(metric, option, widget);
+        case PM_MdiSubWindowFrameWidth:
+            return kBorder;
+        case PM_TitleBarHeight:
+            return kCaptionBar;
+        default:
+            return QProxyStyle::pixelMetric(metric, option, widget);
     }
 }
 

@@ -2,12 +2,6 @@
 // The one top-level window: its operations, commands and end.
 #include "shell/main_window.h"
 
-#include <QApplication>
-#include <QCloseEvent>
-#include <QLabel>
-#include <QMdiArea>
-#include <QStatusBar>
-
 #include "documents/caption.h"
 #include "documents/document_window.h"
 #include "documents/text_box.h"
@@ -17,6 +11,12 @@
 #include "shell/failure_report.h"
 #include "shell/menu_table.h"
 #include "tasks/task_list_window.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QLabel>
+#include <QMdiArea>
+#include <QStatusBar>
 
 namespace kav {
 
@@ -58,7 +58,9 @@ void Compiler::makeStatusBar() {
     statusBar()->addWidget(firstPanel_, 1);
 }
 
-Doc* Compiler::activeDocument() { return qobject_cast<Doc*>(documents_->currentSubWindow()); }
+Doc* Compiler::activeDocument() {
+    return qobject_cast<Doc*>(documents_->currentSubWindow());
+}
 
 void Compiler::newfile(const std::string& text) {
     ++values_.documentCounter;
@@ -85,9 +87,9 @@ void Compiler::settop(const std::string& path) {
 }
 
 void Compiler::doerr(const std::string& handler, int number, const std::string& description) {
-    const BoxAnswer answer = platform_.boxes.show({failureMessage(handler, number, description),
-                                                   kFailureTitle, BoxIcon::Exclamation,
-                                                   BoxButtons::AbortRetryIgnore, BoxAnswer::Ignore});
+    const BoxAnswer answer =
+        platform_.boxes.show({failureMessage(handler, number, description), kFailureTitle,
+                              BoxIcon::Exclamation, BoxButtons::AbortRetryIgnore, BoxAnswer::Ignore});
     if (answer == BoxAnswer::Abort) platform_.environment.endAtOnce(EXIT_FAILURE);
     if (answer != BoxAnswer::Retry) return;
     // The count is part of the line's form; nothing advances it.
@@ -106,7 +108,9 @@ void Compiler::requestDocument(const std::string& number) {
     }
 }
 
-void Compiler::showStatus(const std::string& text) { firstPanel_->setText(shown(text)); }
+void Compiler::showStatus(const std::string& text) {
+    firstPanel_->setText(shown(text));
+}
 
 dbgr& Compiler::taskList() {
     if (taskList_ == nullptr) {
@@ -116,9 +120,13 @@ dbgr& Compiler::taskList() {
     return *taskList_;
 }
 
-void Compiler::bye_Click() { close(); }
+void Compiler::bye_Click() {
+    close();
+}
 
-void Compiler::arr_Click(int arrangement) { arrangeDocuments(*documents_, Arrangement(arrangement)); }
+void Compiler::arr_Click(int arrangement) {
+    arrangeDocuments(*documents_, Arrangement(arrangement));
+}
 
 void Compiler::vew_task_Click() {
     // The toolkit has flipped the check mark already; showing and hiding the list sets it again.

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The main window's menus: which handler each entry runs, and the tree that the table describes.
-#include <QAction>
-#include <QMenu>
-#include <QMenuBar>
-
 #include "platform/desktop/text_conversion.h"
 #include "shell/main_window.h"
 #include "shell/menu_table.h"
+
+#include <QAction>
+#include <QMenu>
+#include <QMenuBar>
 
 namespace kav {
 
@@ -24,12 +24,14 @@ void Compiler::addHandlers() {
     addHandler("sve", [this] { openSave_.sve_Click(); });
     addHandler("comp", [this] { build_.comp_Click(); });
     for (std::size_t slot = 1; slot <= RecentFiles::kCount; ++slot) {
-        addHandler("fil", [this, slot] { openSave_.fil_Click(recentFiles_.item(slot)); }, static_cast<int>(slot));
+        addHandler(
+            "fil", [this, slot] { openSave_.fil_Click(recentFiles_.item(slot)); }, static_cast<int>(slot));
     }
     addHandler("bye", [this] { bye_Click(); });
     addHandler("vew_task", [this] { vew_task_Click(); });
     for (int index = 0; index <= 3; ++index) {
-        addHandler("arr", [this, index] { arr_Click(index); }, index);
+        addHandler(
+            "arr", [this, index] { arr_Click(index); }, index);
     }
 }
 

@@ -1,7 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The main window's start-up: its steps in their order.
-#include <QAction>
-
 #include "documents/caption.h"
 #include "documents/document_window.h"
 #include "documents/text_box.h"
@@ -11,6 +9,8 @@
 #include "shell/date_notices.h"
 #include "shell/main_window.h"
 #include "shell/start_up_refusal.h"
+
+#include <QAction>
 
 namespace kav {
 
@@ -79,7 +79,8 @@ void Compiler::openFirstDocument() {
 void Compiler::showDateNotices() {
     const LocalTime today = platform_.clock.now();
     if (const auto notice = dateNotice(today)) {
-        platform_.boxes.show({notice->text, notice->title, BoxIcon::Exclamation, BoxButtons::Ok, BoxAnswer::Ok});
+        platform_.boxes.show(
+            {notice->text, notice->title, BoxIcon::Exclamation, BoxButtons::Ok, BoxAnswer::Ok});
     }
     Doc* document = activeDocument();
     if (isNewYearsDay(today) && values_.openDocuments != 0 && document != nullptr) {

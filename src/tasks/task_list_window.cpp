@@ -2,6 +2,12 @@
 // The checklist of notes and errors, each tied to a line of a document.
 #include "tasks/task_list_window.h"
 
+#include "documents/document_window.h"
+#include "documents/text_box.h"
+#include "platform/desktop/text_conversion.h"
+#include "runtime/failure.h"
+#include "shell/workspace.h"
+
 #include <algorithm>
 
 #include <QEvent>
@@ -13,18 +19,14 @@
 #include <QSignalBlocker>
 #include <QTreeWidget>
 
-#include "documents/document_window.h"
-#include "documents/text_box.h"
-#include "platform/desktop/text_conversion.h"
-#include "runtime/failure.h"
-#include "shell/workspace.h"
-
 namespace kav {
 
 namespace {
 
 QColor colourOf(std::uint32_t redInLowByte) {
-    const auto channel = [redInLowByte](unsigned shift) { return static_cast<int>((redInLowByte >> shift) & 0xFFU); };
+    const auto channel = [redInLowByte](unsigned shift) {
+        return static_cast<int>((redInLowByte >> shift) & 0xFFU);
+    };
     return {channel(0), channel(8), channel(16)};
 }
 
@@ -96,7 +98,7 @@ void dbgr::connectTree() {
     });
     connect(TreeView1, &QTreeWidget::itemClicked, this, [this] { TreeView1_NodeClick(selectedIndex()); });
     connect(TreeView1, &QTreeWidget::itemChanged, this, [this](QTreeWidgetItem* item) {
-        const auto index = static_cast<std::size_t>(TreeView1->indexOfTopLevelItem(item) + 1);
+        const auto index = static_cast<std::size_t>(TreeView1->indexOfTopLevelItem(item)) + 1;
         tasks_.setFinished(index, item->checkState(0) == Qt::Checked);
     });
 }
@@ -136,7 +138,7 @@ bool dbgr::eventFilter(QObject* watched, QEvent* event) {
 std::size_t dbgr::selectedIndex() const {
     QTreeWidgetItem* const item = TreeView1->currentItem();
     if (item == nullptr || !item->isSelected()) return 0;
-    return static_cast<std::size_t>(TreeView1->indexOfTopLevelItem(item) + 1);
+    return static_cast<std::size_t>(TreeView1->indexOfTopLevelItem(item)) + 1;
 }
 
 void dbgr::showTask(std::size_t index) {
@@ -160,12 +162,14 @@ void dbgr::showTasks(std::size_t selected) {
 
 void dbgr::TreeView1_NodeClick(std::size_t index) {
     if (index == 0) return;
-    const TaskBoxes boxes = tasks_.select(index, {typed(Text2->text()), typed(Text3->text()), typed(Text1->text())});
+    const TaskBoxes boxes =
+        tasks_.select(index, {typed(Text2->text()), typed(Text3->text()), typed(Text1->text())});
     Text2->setText(shown(boxes.document));
     Text3->setText(shown(boxes.line));
     Text1->setText(shown(boxes.text));
     const QSignalBlocker quiet(TreeView1);
-    for (std::size_t shownIndex = 1; shownIndex <= tasks_.count(); ++shownIndex) showTask(shownIndex);
+    for (std::size_t shownIndex = 1; shownIndex <= tasks_.count(); ++shownIndex)
+        showTask(shownIndex);
 }
 
 void dbgr::Command1_Click() {

@@ -2,13 +2,13 @@
 // The checklist of notes and errors, each tied to a line of a document.
 #pragma once
 
+#include "tasks/task_list.h"
+
 #include <cstdint>
 #include <string>
 
 #include <QTimer>
 #include <QWidget>
-
-#include "tasks/task_list.h"
 
 class QLineEdit;
 class QPushButton;

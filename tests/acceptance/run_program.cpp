@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // run_program FILE: reads a program file back, runs it on the emulated calculator until it waits for a key or
 // ends, and prints what its text screen shows.
-#include <exception>
-#include <iostream>
-
 #include "emulator/emulator.h"
 #include "program_file/program_file.h"
+
+#include <exception>
+#include <iostream>
 
 int main(int argumentCount, char** arguments) {
     if (argumentCount != 2) {

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "runtime/files.h"
 
-#include <gtest/gtest.h>
-
 #include "runtime/failure.h"
 #include "support/temporary_folder.h"
+
+#include <gtest/gtest.h>
 
 namespace kav {
 
@@ -31,7 +31,8 @@ class Files : public testing::Test {
 
 TEST_F(Files, KeepEveryByte) {
     std::string all;
-    for (int byte = 0; byte < 256; ++byte) all += static_cast<char>(byte);
+    for (int byte = 0; byte < 256; ++byte)
+        all += static_cast<char>(byte);
     writeFile(folder_.file("a"), all);
     EXPECT_EQ(readFile(folder_.file("a")), all);
 }

@@ -33,6 +33,8 @@ TEST(Characters, StrayBytesCountOneEach) {
     EXPECT_EQ(firstCharacters("\xE2\x82", 1), "\xE2");
 }
 
-TEST(Characters, AskingForMoreGivesAll) { EXPECT_EQ(firstCharacters("ab", 9), "ab"); }
+TEST(Characters, AskingForMoreGivesAll) {
+    EXPECT_EQ(firstCharacters("ab", 9), "ab");
+}
 
 }  // namespace kav

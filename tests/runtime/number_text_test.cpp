@@ -2,7 +2,6 @@
 #include "runtime/number_text.h"
 
 #include <gtest/gtest.h>
-
 #include <limits>
 
 namespace kav {
@@ -22,8 +21,10 @@ TEST(NumericValue, IsZeroWhereThereIsNoNumber) {
 }
 
 TEST(Flag, IsSetByOneAlone) {
-    for (const char* text : {"1", " 1 ", "1x", "1.0"}) EXPECT_TRUE(flagValue(text)) << text;
-    for (const char* text : {"-1", "2", "", "True", "0", "10"}) EXPECT_FALSE(flagValue(text)) << text;
+    for (const char* text : {"1", " 1 ", "1x", "1.0"})
+        EXPECT_TRUE(flagValue(text)) << text;
+    for (const char* text : {"-1", "2", "", "True", "0", "10"})
+        EXPECT_FALSE(flagValue(text)) << text;
 }
 
 TEST(WholeNumber, TakesNoTextBehindTheNumber) {

@@ -2,6 +2,8 @@
 // A desktop that answers from a script and remembers what it was asked.
 #pragma once
 
+#include "platform/platform.h"
+
 #include <deque>
 #include <functional>
 #include <map>
@@ -9,8 +11,6 @@
 #include <stdexcept>
 #include <string>
 #include <vector>
-
-#include "platform/platform.h"
 
 namespace kav::test {
 

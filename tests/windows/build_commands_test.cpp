@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <QTreeWidget>
-
 #include "tasks/task_list_window.h"
 #include "windows/main_window_fixture.h"
+
+#include <QTreeWidget>
 
 namespace kav::test {
 
@@ -145,7 +145,8 @@ TEST_F(Build, AMissingProgramFileIsReported) {
     desktop_.fileChooser.answers = {folder_.file("saved.8xp")};
     desktop_.boxes.answers = {BoxAnswer::Ignore};
     verdict("0\r\n");
-    EXPECT_NE(desktop_.boxes.shownBoxes.at(0).text.find("Error 53in module comptime_Timer: "), std::string::npos);
+    EXPECT_NE(desktop_.boxes.shownBoxes.at(0).text.find("Error 53in module comptime_Timer: "),
+              std::string::npos);
     EXPECT_FALSE(fileExists(folder_.file("saved.8xp")));
 }
 
@@ -185,7 +186,8 @@ TEST_F(Build, CancelShowsTheListing) {
     desktop_.boxes.answers = {BoxAnswer::Cancel};
     verdict("1\r\n");
     ASSERT_EQ(desktop_.launcher.launches.size(), 2U);
-    EXPECT_EQ(desktop_.launcher.launches[1].commandLine, "C:\\Windows\\notepad.exe " + folder_.file("temp.lst"));
+    EXPECT_EQ(desktop_.launcher.launches[1].commandLine,
+              "C:\\Windows\\notepad.exe " + folder_.file("temp.lst"));
     EXPECT_EQ(desktop_.launcher.launches[1].style, WindowStyle::NormalFocus);
 }
 
@@ -193,7 +195,8 @@ TEST_F(Build, YesMakesRedTasksOfTheErrors) {
     start();
     choose("newasm");
     build("game");
-    writeFile(folder_.file("temp.lst"), "0001 9D93 00 nop\r\ntemp errors\r\ntemp.z80 line 0007: bad operand\r\n");
+    writeFile(folder_.file("temp.lst"),
+              "0001 9D93 00 nop\r\ntemp errors\r\ntemp.z80 line 0007: bad operand\r\n");
     desktop_.boxes.answers = {BoxAnswer::Yes};
     verdict("1\r\n");
     const TaskList& tasks = compiler().taskList().tasks();

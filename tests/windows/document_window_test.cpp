@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <QScrollBar>
-
 #include "windows/main_window_fixture.h"
+
+#include <QScrollBar>
 
 namespace kav::test {
 
@@ -70,8 +70,9 @@ TEST_F(DocumentWindow, AMinimizedWindowKeepsItsTextBox) {
 
 TEST_F(DocumentWindow, ATriggerPhraseAsTheWholeTextIsReplacedAtOnce) {
     setWholeText("I HATE MIRAGEOS!");
-    EXPECT_EQ(active().txt().bytes(),
-              "So do we, DUCKOS FOREVER QUACK, QUACK, QUACK!!!!!!!!!!!!!!!!!!! (Its best not to think about it:)");
+    EXPECT_EQ(
+        active().txt().bytes(),
+        "So do we, DUCKOS FOREVER QUACK, QUACK, QUACK!!!!!!!!!!!!!!!!!!! (Its best not to think about it:)");
 }
 
 TEST_F(DocumentWindow, ATriggerPhraseTypedByHandIsReplacedToo) {
@@ -120,7 +121,8 @@ TEST_F(DocumentWindow, ARequestedDocumentComesToTheFrontAndTheRequestIsTaken) {
 }
 
 TEST_F(DocumentWindow, DocumentsOneAndTwelveBothAnswerARequestForOne) {
-    for (int i = 0; i < 11; ++i) choose("newasm");
+    for (int i = 0; i < 11; ++i)
+        choose("newasm");
     compiler().requestDocument("1");
     EXPECT_TRUE(QTest::qWaitFor([this] { return compiler().values().gotoDocument == "0"; }));
     EXPECT_EQ(active().caption().at(4), '1');
@@ -135,7 +137,9 @@ TEST_F(DocumentWindow, ARequestNobodyAnswersStaysPendingAndWakesNobody) {
     EXPECT_TRUE(QTest::qWaitFor([this] { return compiler().values().gotoDocument == "0"; }));
 }
 
-TEST_F(DocumentWindow, AnIdleDocumentHasNoTimerRunning) { EXPECT_FALSE(active().watchesForRequest()); }
+TEST_F(DocumentWindow, AnIdleDocumentHasNoTimerRunning) {
+    EXPECT_FALSE(active().watchesForRequest());
+}
 
 TEST_F(DocumentWindow, TilesAndCascadesFillTheFrame) {
     choose("newasm");
@@ -146,7 +150,8 @@ TEST_F(DocumentWindow, TilesAndCascadesFillTheFrame) {
     choose("arr", 2);
     EXPECT_EQ(rows[0]->height(), rows[1]->height());
     EXPECT_NE(rows[0]->x(), rows[1]->x());
-    for (const Doc* document : rows) expectNothingCutOff(*document);
+    for (const Doc* document : rows)
+        expectNothingCutOff(*document);
     choose("arr", 0);
     EXPECT_NE(rows[0]->pos(), rows[1]->pos());
     EXPECT_NE(rows[0]->x(), 0 + rows[1]->x());

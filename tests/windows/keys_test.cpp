@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <QTreeWidget>
-
 #include "shell/menu_table.h"
 #include "tasks/task_list_window.h"
 #include "windows/main_window_fixture.h"
+
+#include <QTreeWidget>
 
 namespace kav::test {
 

@@ -1,19 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "platform/linux/linux_launcher.h"
-
-#include <gtest/gtest.h>
-
-#include <filesystem>
-
-#include <QApplication>
-#include <QTest>
-
 #include "build/build_files.h"
 #include "platform/dos_path.h"
 #include "platform/linux/console_window.h"
+#include "platform/linux/linux_launcher.h"
 #include "runtime/failure.h"
 #include "runtime/files.h"
 #include "support/temporary_folder.h"
+
+#include <filesystem>
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QTest>
 
 namespace kav::test {
 
@@ -27,8 +25,9 @@ class Launcher : public testing::Test {
     std::string makeFolderWithScript(const std::string& name) {
         const fs::path folder = folder_.path() / name;
         fs::create_directories(folder);
-        writeScript((folder / "asm").string(),
-                    "printf '%s|' \"$PWD\" \"$#\" \"$@\" > calling\necho out; echo err >&2\nmv calling called\n");
+        writeScript(
+            (folder / "asm").string(),
+            "printf '%s|' \"$PWD\" \"$#\" \"$@\" > calling\necho out; echo err >&2\nmv calling called\n");
         return folder.string();
     }
 
@@ -44,7 +43,8 @@ class Launcher : public testing::Test {
         writeFile(folder + "/comp.bat", batchFile(dosForm(folder), name));
         LinuxLauncher launcher{ApplicationFolder(folder)};
         EXPECT_GT(launcher.launch(folder + "/comp.bat", style), 0);
-        EXPECT_TRUE(QTest::qWaitFor([&] { return fileExists(folder + "/called") && consoleIsComplete(style); }));
+        EXPECT_TRUE(
+            QTest::qWaitFor([&] { return fileExists(folder + "/called") && consoleIsComplete(style); }));
         return readFile(folder + "/called");
     }
 
@@ -119,7 +119,9 @@ TEST_F(Launcher, TheListingOpensInTheViewerWithItsWholePath) {
     writeScript(folder + "/kav-viewer", "printf '%s|' \"$@\" > '" + folder + "/viewed'\n");
     LinuxLauncher launcher{ApplicationFolder(folder)};
     launcher.launch("C:\\WINDOWS\\notepad.exe " + folder + "/temp.lst", WindowStyle::NormalFocus);
-    const auto viewed = [&folder] { return fileExists(folder + "/viewed") ? readFile(folder + "/viewed") : ""; };
+    const auto viewed = [&folder] {
+        return fileExists(folder + "/viewed") ? readFile(folder + "/viewed") : "";
+    };
     EXPECT_TRUE(QTest::qWaitFor([&] { return viewed() == folder + "/temp.lst|"; }));
 }
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Runs the window tests in one application without a display.
+#include "shell/document_frame_style.h"
+
 #include <gtest/gtest.h>
 
 #include <QApplication>
-
-#include "shell/document_frame_style.h"
 
 int main(int argumentCount, char** arguments) {
     qputenv("QT_QPA_PLATFORM", "offscreen");

@@ -2,8 +2,14 @@
 // A main window over a scripted desktop and an application folder of its own.
 #pragma once
 
-#include <gtest/gtest.h>
+#include "documents/document_window.h"
+#include "documents/text_box.h"
+#include "runtime/files.h"
+#include "shell/main_window.h"
+#include "support/scripted_platform.h"
+#include "support/temporary_folder.h"
 
+#include <gtest/gtest.h>
 #include <memory>
 #include <string>
 
@@ -12,13 +18,6 @@
 #include <QMdiArea>
 #include <QStatusBar>
 #include <QTest>
-
-#include "documents/document_window.h"
-#include "documents/text_box.h"
-#include "runtime/files.h"
-#include "shell/main_window.h"
-#include "support/scripted_platform.h"
-#include "support/temporary_folder.h"
 
 namespace kav::test {
 
@@ -39,7 +38,8 @@ class MainWindow : public testing::Test {
 
     /// Starts it with the preferences file as it is on disk.
     Compiler& startWithFile(const std::string& commandLine = {}) {
-        compiler_ = std::make_unique<Compiler>(desktop_.platform(), ApplicationFolder(folder_.path().string()));
+        compiler_ =
+            std::make_unique<Compiler>(desktop_.platform(), ApplicationFolder(folder_.path().string()));
         compiler_->show();
         compiler_->load(commandLine);
         return *compiler_;
@@ -54,7 +54,9 @@ class MainWindow : public testing::Test {
         return compiler_->findChildren<Doc*>();
     }
 
-    void choose(const std::string& menuItem, int index = -1) { compiler_->menuItem(menuItem, index)->trigger(); }
+    void choose(const std::string& menuItem, int index = -1) {
+        compiler_->menuItem(menuItem, index)->trigger();
+    }
 
     [[nodiscard]] std::string status() {
         return compiler_->statusBar()->findChild<QLabel*>("stat1")->text().toStdString();

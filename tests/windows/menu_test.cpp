@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <QMenuBar>
-
 #include "shell/menu_table.h"
 #include "windows/main_window_fixture.h"
+
+#include <QMenuBar>
 
 namespace kav::test {
 
@@ -18,7 +18,8 @@ TEST_F(Menu, ShowsTheTableInItsOrder) {
     QStringList shownNames;
     for (const QAction* top : compiler().menuBar()->actions()) {
         shownNames << top->objectName();
-        for (const QAction* item : top->menu()->actions()) shownNames << item->objectName();
+        for (const QAction* item : top->menu()->actions())
+            shownNames << item->objectName();
     }
     QStringList tableNames;
     bool hiddenMenu = false;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <filesystem>
-
 #include "windows/main_window_fixture.h"
+
+#include <filesystem>
 
 namespace kav::test {
 
@@ -30,8 +30,9 @@ TEST_F(OpenSave, CancelInOpenGoesToTheReporter) {
     desktop_.fileChooser.answers = {std::nullopt};
     desktop_.boxes.answers = {BoxAnswer::Ignore};
     choose("load");
-    EXPECT_NE(desktop_.boxes.shownBoxes.at(0).text.find("Error 32755in module load_Click: Cancel was selected.."),
-              std::string::npos);
+    EXPECT_NE(
+        desktop_.boxes.shownBoxes.at(0).text.find("Error 32755in module load_Click: Cancel was selected.."),
+        std::string::npos);
     EXPECT_EQ(documents().size(), 1);
 }
 
@@ -45,7 +46,8 @@ TEST_F(OpenSave, AFileThatCannotBeReadOpensNoDocument) {
 
 TEST_F(OpenSave, ARoundTripAddsOneLineBreakAndChangesNoOtherByte) {
     std::string all = "mixed\nline\rends\r\n";
-    for (int byte = 0; byte < 256; ++byte) all += static_cast<char>(byte);
+    for (int byte = 0; byte < 256; ++byte)
+        all += static_cast<char>(byte);
     writeFile(folder_.file("a.z80"), all);
     desktop_.fileChooser.answers = {folder_.file("a.z80")};
     choose("load");

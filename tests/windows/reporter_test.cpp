@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <filesystem>
-
 #include "windows/main_window_fixture.h"
+
+#include <filesystem>
 
 namespace kav::test {
 

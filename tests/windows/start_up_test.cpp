@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <filesystem>
-
 #include "runtime/failure.h"
 #include "windows/main_window_fixture.h"
+
+#include <filesystem>
 
 namespace kav::test {
 
@@ -122,8 +122,9 @@ TEST_F(StartUp, CustomToolsAreShownByNameAndHiddenWithoutOne) {
 TEST_F(StartUp, DocumentsOpenWithTheFontOfThePreferences) {
     preferences_.fontSize = 20;
     start();
-    EXPECT_EQ(active().txt().SendScintilla(QsciScintillaBase::SCI_STYLEGETSIZE, QsciScintillaBase::STYLE_DEFAULT),
-              20);
+    EXPECT_EQ(
+        active().txt().SendScintilla(QsciScintillaBase::SCI_STYLEGETSIZE, QsciScintillaBase::STYLE_DEFAULT),
+        20);
 }
 
 }  // namespace kav::test

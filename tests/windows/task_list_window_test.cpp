@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tasks/task_list_window.h"
 
+#include "windows/main_window_fixture.h"
+
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTreeWidget>
-
-#include "windows/main_window_fixture.h"
 
 namespace kav::test {
 
@@ -45,8 +45,10 @@ TEST_F(TaskListWindow, AddsATaskWithFourDigitsAndSelectsIt) {
 }
 
 TEST_F(TaskListWindow, DeleteFinishedRemovesThreeInARow) {
-    for (int i = 0; i < 4; ++i) add("1", "1", "x");
-    for (int i = 0; i < 3; ++i) tree().topLevelItem(i)->setCheckState(0, Qt::Checked);
+    for (int i = 0; i < 4; ++i)
+        add("1", "1", "x");
+    for (int i = 0; i < 3; ++i)
+        tree().topLevelItem(i)->setCheckState(0, Qt::Checked);
     press("Command2");
     EXPECT_EQ(list().tasks().count(), 1U);
     EXPECT_EQ(tree().topLevelItemCount(), 1);

@@ -19,7 +19,8 @@ TEST_F(Templates, ANewKavFileAsksForItsDescription) {
     EXPECT_EQ(box.title, "New KAV File");
     EXPECT_EQ(box.defaultText, "TITLE");
     EXPECT_EQ(active().caption(), "Doc 2\tUntitled");
-    EXPECT_NE(active().txt().bytes().find(".db \" TITLE\", 0 ; Title (Must begin with space)"), std::string::npos);
+    EXPECT_NE(active().txt().bytes().find(".db \" TITLE\", 0 ; Title (Must begin with space)"),
+              std::string::npos);
     EXPECT_FALSE(active().isModified());
 }
 

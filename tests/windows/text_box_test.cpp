@@ -10,7 +10,8 @@ namespace kav::test {
 TEST(TextBox, KeepsEveryByteAndEveryLineEnd) {
     TextBox box;
     std::string all = "a\r\nb\nc\rd\xFF\xC3(";
-    for (int byte = 0; byte < 256; ++byte) all += static_cast<char>(byte);
+    for (int byte = 0; byte < 256; ++byte)
+        all += static_cast<char>(byte);
     box.setBytes(all);
     EXPECT_EQ(box.bytes(), all);
     EXPECT_EQ(box.byteLength(), all.size());
@@ -78,7 +79,8 @@ TEST(TextBox, ASizeNobodyCanReadIsBroughtWithinWhatCan) {
 TEST(TextBox, TypingIntoTenMegabytesCopiesNothing) {
     TextBox box;
     std::string text;
-    while (text.size() < 10'000'000) text += " ld a,(hl) ; a line of some length\r\n";
+    while (text.size() < 10'000'000)
+        text += " ld a,(hl) ; a line of some length\r\n";
     box.setBytes(text);
     int changes = 0;
     QObject::connect(&box, &TextBox::changed, [&changes] { ++changes; });

@@ -2,6 +2,8 @@
 // Message and input boxes of the toolkit.
 #include "platform/desktop/desktop_boxes.h"
 
+#include "platform/desktop/text_conversion.h"
+
 #include <array>
 #include <utility>
 #include <vector>
@@ -10,8 +12,6 @@
 #include <QInputDialog>
 #include <QLineEdit>
 #include <QMessageBox>
-
-#include "platform/desktop/text_conversion.h"
 
 namespace kav {
 
@@ -38,20 +38,28 @@ Button buttonOf(BoxAnswer answer) {
 
 std::vector<BoxAnswer> answersOf(BoxButtons buttons) {
     switch (buttons) {
-        case BoxButtons::Ok: return {BoxAnswer::Ok};
-        case BoxButtons::YesNo: return {BoxAnswer::Yes, BoxAnswer::No};
-        case BoxButtons::YesNoCancel: return {BoxAnswer::Yes, BoxAnswer::No, BoxAnswer::Cancel};
-        case BoxButtons::AbortRetryIgnore: return {BoxAnswer::Abort, BoxAnswer::Retry, BoxAnswer::Ignore};
+        case BoxButtons::Ok:
+            return {BoxAnswer::Ok};
+        case BoxButtons::YesNo:
+            return {BoxAnswer::Yes, BoxAnswer::No};
+        case BoxButtons::YesNoCancel:
+            return {BoxAnswer::Yes, BoxAnswer::No, BoxAnswer::Cancel};
+        case BoxButtons::AbortRetryIgnore:
+            return {BoxAnswer::Abort, BoxAnswer::Retry, BoxAnswer::Ignore};
     }
     return {};
 }
 
 QMessageBox::Icon iconOf(BoxIcon icon) {
     switch (icon) {
-        case BoxIcon::None: return QMessageBox::NoIcon;
-        case BoxIcon::Information: return QMessageBox::Information;
-        case BoxIcon::Question: return QMessageBox::Question;
-        case BoxIcon::Exclamation: return QMessageBox::Warning;
+        case BoxIcon::None:
+            return QMessageBox::NoIcon;
+        case BoxIcon::Information:
+            return QMessageBox::Information;
+        case BoxIcon::Question:
+            return QMessageBox::Question;
+        case BoxIcon::Exclamation:
+            return QMessageBox::Warning;
     }
     return QMessageBox::NoIcon;
 }

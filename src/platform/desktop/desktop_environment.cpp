@@ -2,17 +2,19 @@
 // Variables, desktop folder and the end of the process.
 #include "platform/desktop/desktop_environment.h"
 
+#include "platform/desktop/text_conversion.h"
+
 #include <cstdlib>
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QStandardPaths>
 
-#include "platform/desktop/text_conversion.h"
-
 namespace kav {
 
-std::string DesktopEnvironment::variable(const std::string& name) { return qgetenv(name.c_str()).toStdString(); }
+std::string DesktopEnvironment::variable(const std::string& name) {
+    return qgetenv(name.c_str()).toStdString();
+}
 
 std::string DesktopEnvironment::desktopFolder() {
     const QString folder = QStandardPaths::writableLocation(QStandardPaths::DesktopLocation);
@@ -20,8 +22,12 @@ std::string DesktopEnvironment::desktopFolder() {
     return pathBytes(folder);
 }
 
-void DesktopEnvironment::endAtOnce(int exitCode) { std::_Exit(exitCode); }
+void DesktopEnvironment::endAtOnce(int exitCode) {
+    std::_Exit(exitCode);
+}
 
-void DesktopEnvironment::end(int exitCode) { QCoreApplication::exit(exitCode); }
+void DesktopEnvironment::end(int exitCode) {
+    QCoreApplication::exit(exitCode);
+}
 
 }  // namespace kav

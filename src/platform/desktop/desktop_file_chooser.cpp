@@ -2,12 +2,12 @@
 // The toolkit's file dialog.
 #include "platform/desktop/desktop_file_chooser.h"
 
+#include "platform/desktop/text_conversion.h"
+#include "platform/dialog_filter.h"
+
 #include <QApplication>
 #include <QFileDialog>
 #include <QFileInfo>
-
-#include "platform/desktop/text_conversion.h"
-#include "platform/dialog_filter.h"
 
 namespace kav {
 
@@ -24,7 +24,8 @@ QStringList nameFiltersOf(const std::string& filter) {
     for (const DialogFilter& entry : parseFilter(filter)) {
         QStringList patterns;
         // "*.*" means every file here, with or without a dot.
-        for (const std::string& pattern : entry.patterns) patterns << (pattern == "*.*" ? "*" : shown(pattern));
+        for (const std::string& pattern : entry.patterns)
+            patterns << (pattern == "*.*" ? "*" : shown(pattern));
         // The captions name their patterns already; the dialog shows them behind the caption once.
         const QString caption = shown(entry.caption).section('(', 0, 0).trimmed();
         nameFilters << caption + " (" + patterns.join(' ') + ")";

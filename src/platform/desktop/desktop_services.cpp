@@ -2,15 +2,17 @@
 // The small services that the toolkit and the standard library give alike on every system.
 #include "platform/desktop/desktop_services.h"
 
+#include "platform/desktop/text_conversion.h"
+
 #include <QClipboard>
 #include <QDateTime>
 #include <QGuiApplication>
 
-#include "platform/desktop/text_conversion.h"
-
 namespace kav {
 
-void DesktopClipboard::clear() { QGuiApplication::clipboard()->clear(); }
+void DesktopClipboard::clear() {
+    QGuiApplication::clipboard()->clear();
+}
 
 void DesktopClipboard::setText(const std::string& text) {
     QString desktopText = shown(text);

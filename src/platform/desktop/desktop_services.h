@@ -2,11 +2,11 @@
 // The small services that the toolkit and the standard library give alike on every system.
 #pragma once
 
-#include <random>
-
 #include "platform/clipboard.h"
 #include "platform/clock.h"
 #include "platform/random_numbers.h"
+
+#include <random>
 
 namespace kav {
 

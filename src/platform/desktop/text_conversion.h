@@ -10,13 +10,19 @@
 namespace kav {
 
 /// Text for showing: UTF-8, bytes that are none shown as replacement characters.
-inline QString shown(const std::string& text) { return QString::fromStdString(text); }
+inline QString shown(const std::string& text) {
+    return QString::fromStdString(text);
+}
 
 /// Text that the user typed, as UTF-8.
-inline std::string typed(const QString& text) { return text.toStdString(); }
+inline std::string typed(const QString& text) {
+    return text.toStdString();
+}
 
 /// A path as the file system names it.
-inline std::string pathBytes(const QString& path) { return QFile::encodeName(path).toStdString(); }
+inline std::string pathBytes(const QString& path) {
+    return QFile::encodeName(path).toStdString();
+}
 
 /// A path as the toolkit takes it.
 inline QString pathString(const std::string& path) {

@@ -2,6 +2,13 @@
 // Starts programs on Linux, with stand-ins for those of another system.
 #include "platform/linux/linux_launcher.h"
 
+#include "platform/batch_file.h"
+#include "platform/command_line_split.h"
+#include "platform/desktop/text_conversion.h"
+#include "platform/linux/console_window.h"
+#include "runtime/failure.h"
+#include "runtime/files.h"
+
 #include <optional>
 #include <string_view>
 #include <utility>
@@ -10,13 +17,6 @@
 #include <QFileInfo>
 #include <QProcess>
 #include <QStandardPaths>
-
-#include "platform/batch_file.h"
-#include "platform/command_line_split.h"
-#include "platform/desktop/text_conversion.h"
-#include "platform/linux/console_window.h"
-#include "runtime/failure.h"
-#include "runtime/files.h"
 
 namespace kav {
 
@@ -41,7 +41,8 @@ std::optional<std::string> argumentOf(const std::string& commandLine, const QStr
 
 QStringList listOf(const std::vector<std::string>& arguments) {
     QStringList list;
-    for (const std::string& argument : arguments) list << pathString(argument);
+    for (const std::string& argument : arguments)
+        list << pathString(argument);
     return list;
 }
 
@@ -54,7 +55,8 @@ LinuxLauncher::~LinuxLauncher() = default;
 
 long LinuxLauncher::launch(const std::string& commandLine, WindowStyle style) {
     if (commandLine.ends_with(".bat") && fileExists(commandLine)) return runBatch(commandLine, style);
-    if (const auto address = argumentOf(commandLine, "iexplore.exe")) return startDetached("xdg-open", {*address});
+    if (const auto address = argumentOf(commandLine, "iexplore.exe"))
+        return startDetached("xdg-open", {*address});
     for (const char* viewed : {"notepad.exe", "winhelp.exe"}) {
         if (const auto file = argumentOf(commandLine, viewed)) {
             return startDetached(applicationFolder_.file("kav-viewer"), {*file});

@@ -2,12 +2,12 @@
 // Starts programs on Linux, with stand-ins for those of another system.
 #pragma once
 
+#include "platform/application_folder.h"
+#include "platform/process_launcher.h"
+
 #include <memory>
 
 #include <QObject>
-
-#include "platform/application_folder.h"
-#include "platform/process_launcher.h"
 
 class QProcess;
 
