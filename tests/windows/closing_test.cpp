@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "runtime/failure.h"
 #include "windows/main_window_fixture.h"
 
 namespace kav::test {
@@ -88,6 +89,13 @@ TEST_F(Closing, CancelKeepsThatDocumentAndTheProgramOpen) {
     EXPECT_TRUE(compiler().isVisible());
     EXPECT_FALSE(desktop_.environment.ended.has_value());
     EXPECT_EQ(readFile(folder_.file("prefs.ini")), "untouched");
+}
+
+TEST_F(Closing, PreferencesThatCannotBeWrittenAreAFailureThatNobodyCatches) {
+    removeFile(folder_.file("prefs.ini"));
+    makeFolder(folder_.file("prefs.ini"));
+    EXPECT_THROW(compiler().close(), Failure);
+    EXPECT_FALSE(desktop_.environment.ended.has_value());
 }
 
 TEST_F(Closing, TheMainWindowWritesThePreferencesAtItsEnd) {

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "windows/main_window_fixture.h"
 
-#include <filesystem>
-
+#include "runtime/failure.h"
 namespace kav::test {
 
 class Reporter : public MainWindow {
@@ -44,6 +43,11 @@ TEST_F(Reporter, WithWindirLogsToTheDesktopBelowIt) {
     makeFolder(folder_.file("Desktop"));
     report(BoxAnswer::Retry);
     EXPECT_TRUE(fileExists(folder_.file("Desktop/kaverr.log")));
+}
+
+TEST_F(Reporter, ALogThatCannotBeWrittenIsAFailureThatNobodyCatches) {
+    desktop_.environment.variables["windir"] = folder_.file("none");
+    EXPECT_THROW(report(BoxAnswer::Retry), Failure);
 }
 
 TEST_F(Reporter, AbortEndsAtOnceWithoutWritingThePreferences) {
