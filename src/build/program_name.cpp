@@ -2,7 +2,7 @@
 // The question for the program's name, and which names are taken.
 #include "build/program_name.h"
 
-#include "runtime/lines.h"
+#include "runtime/code_points.h"
 
 #include <algorithm>
 

@@ -2,7 +2,7 @@
 // What the edit commands do to a text and its selection.
 #include "documents/edit_operations.h"
 
-#include "documents/code_points.h"
+#include "runtime/code_points.h"
 
 #include <algorithm>
 

@@ -2,7 +2,7 @@
 // Searching a text and replacing every match in it.
 #include "documents/find_replace.h"
 
-#include "documents/code_points.h"
+#include "runtime/code_points.h"
 #include "documents/match_scanner.h"
 #include "runtime/failure.h"
 #include "runtime/lines.h"

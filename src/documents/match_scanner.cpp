@@ -3,7 +3,7 @@
 #include "documents/match_scanner.h"
 
 #include "documents/case_folding.h"
-#include "documents/code_points.h"
+#include "runtime/code_points.h"
 
 namespace kav {
 

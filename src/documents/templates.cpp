@@ -2,6 +2,7 @@
 // The program skeletons that a new document can start from.
 #include "documents/templates.h"
 
+#include "runtime/code_points.h"
 #include "runtime/lines.h"
 
 namespace kav {

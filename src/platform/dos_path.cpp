@@ -3,7 +3,7 @@
 #include "platform/dos_path.h"
 
 #include "runtime/failure.h"
-#include "runtime/lines.h"
+#include "runtime/code_points.h"
 
 #include <algorithm>
 

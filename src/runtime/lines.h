@@ -31,10 +31,4 @@ class LineReader {
 /// The lines with CR LF between them and none behind the last.
 [[nodiscard]] std::string joinedLines(const std::vector<std::string_view>& lines);
 
-/// The first `count` code points of UTF-8 text; a byte that belongs to no sequence counts as one.
-[[nodiscard]] std::string firstCharacters(std::string_view text, std::size_t count);
-
-/// The number of code points in UTF-8 text, counted as in firstCharacters.
-[[nodiscard]] std::size_t characterCount(std::string_view text);
-
 }  // namespace kav

@@ -3,6 +3,7 @@
 #include "tasks/task_list.h"
 
 #include "runtime/failure.h"
+#include "runtime/code_points.h"
 #include "runtime/lines.h"
 #include "runtime/number_text.h"
 

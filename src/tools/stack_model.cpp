@@ -3,7 +3,7 @@
 #include "tools/stack_model.h"
 
 #include "runtime/failure.h"
-#include "runtime/lines.h"
+#include "runtime/code_points.h"
 
 #include <utility>
 

@@ -2,6 +2,7 @@
 // Text turned into ".db" lines of Z80 data.
 #include "tools/string_converter.h"
 
+#include "runtime/code_points.h"
 #include "runtime/lines.h"
 #include "tools/vcode.h"
 

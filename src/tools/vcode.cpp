@@ -3,6 +3,7 @@
 #include "tools/vcode.h"
 
 #include "runtime/failure.h"
+#include "runtime/code_points.h"
 #include "runtime/lines.h"
 
 #include <cstdint>

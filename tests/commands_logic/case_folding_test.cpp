@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "documents/case_folding.h"
 
-#include "documents/code_points.h"
+#include "runtime/code_points.h"
 
 #include <gtest/gtest.h>
 

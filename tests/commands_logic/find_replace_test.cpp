@@ -2,7 +2,7 @@
 #include "documents/find_replace.h"
 
 #include "documents/case_folding.h"
-#include "documents/code_points.h"
+#include "runtime/code_points.h"
 #include "runtime/failure.h"
 
 #include <algorithm>

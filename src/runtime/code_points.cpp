@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The code points of UTF-8 text.
-#include "documents/code_points.h"
+#include "runtime/code_points.h"
 
 #include <algorithm>
 
@@ -55,6 +55,20 @@ std::size_t characterStart(std::string_view text, std::size_t at) {
         if (length > back) return at - back + length;
     }
     return at;
+}
+
+std::string firstCharacters(std::string_view text, std::size_t count) {
+    std::size_t end = 0;
+    for (; count > 0 && end < text.size(); --count)
+        end += codePointAt(text, end).length;
+    return std::string(text.substr(0, end));
+}
+
+std::size_t characterCount(std::string_view text) {
+    std::size_t count = 0;
+    for (; !text.empty(); ++count)
+        text.remove_prefix(codePointAt(text, 0).length);
+    return count;
 }
 
 }  // namespace kav

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstddef>
+#include <string>
 #include <string_view>
 
 namespace kav {
@@ -22,5 +23,11 @@ inline constexpr char32_t kStrayByteBase = 0x110000;
 
 /// The first offset from `at` on that lies on no character's inside; the text's length at most.
 [[nodiscard]] std::size_t characterStart(std::string_view text, std::size_t at);
+
+/// The first `count` code points of UTF-8 text; a byte that belongs to no sequence counts as one.
+[[nodiscard]] std::string firstCharacters(std::string_view text, std::size_t count);
+
+/// The number of code points in UTF-8 text, counted as in firstCharacters.
+[[nodiscard]] std::size_t characterCount(std::string_view text);
 
 }  // namespace kav
