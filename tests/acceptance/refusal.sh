@@ -31,3 +31,20 @@ refused short-preferences "23"
 rm "$application/prefs.ini"
 refused no-preferences "prefs.ini"
 [ ! -e "$application/prefs.ini" ] || fail "a preferences file was made up"
+
+# What nobody catches while the program runs ends it with a message, too.
+rm -rf "$application/Projects"
+cp "$project/packaging/prefs.ini" "$application/prefs.ini"
+start_program
+rm "$application/prefs.ini"
+mkdir "$application/prefs.ini"
+: >"$desktop_folder/program.log"
+key alt+F4
+wait_until 10 program_shows_message || fail "no message about preferences that cannot be written"
+picture preferences-not-written
+key Return
+wait_until 10 program_has_ended || fail "the program did not end"
+code=0
+wait "$program" || code=$?
+program=
+[ "$code" -eq 1 ] || fail "exit code $code"
