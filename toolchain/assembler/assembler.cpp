@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The assembler: source in, bytes, messages, labels and a listing out.
+#include "assembler/assembler.h"
+
+#include <algorithm>
+#include <memory>
+
+#include "assembler/pass.h"
+
+namespace kav::assembler {
+
+namespace {
+
+constexpr int kMostPasses = 12;
+
+std::vector<Symbol> symbolsOf(const Pass& pass) {
+    std::vector<Symbol> symbols;
+    for (const Label& label : pass.knowledge.symbols.labels()) {
+        if (!label.defined) continue;
+        const std::string module = label.scope == 0 ? "" : pass.moduleNames[label.scope - 1] + ".";
+        symbols.push_back({module + std::string(label.name), label.value, label.kind == LabelKind::kAddress});
+    }
+    return symbols;
+}
+
+Result resultOf(const Pass& pass) {
+    Result result;
+    result.messages = pass.diagnostics.sorted();
+    result.ok = pass.diagnostics.errorCount() == 0;
+    result.bytes = pass.image.block();
+    result.origin = pass.image.origin();
+    result.symbols = symbolsOf(pass);
+    if (pass.options.wantListing) result.listing = writeListing(pass.listed, pass.image, result.messages);
+    return result;
+}
+
+/// True when no further pass is needed or of use.
+bool runPass(Pass& pass, const std::string& mainFile) {
+    try {
+        return pass.run(mainFile);
+    } catch (const PassAbandoned&) {
+        return true;
+    }
+}
+
+}  // namespace
+
+Result assemble(SourceFiles& sources, const std::string& mainFile, const Options& options) {
+    Knowledge knowledge;
+    for (int number = 1;; ++number) {
+        const bool last = number == kMostPasses;
+        const Pass::Turn turn = number == 1 ? Pass::Turn::kFirst : last ? Pass::Turn::kLast : Pass::Turn::kLater;
+        Pass pass(sources, options, knowledge, turn);
+        if (runPass(pass, mainFile) || last) return resultOf(pass);
+    }
+}
+
+}  // namespace kav::assembler

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// kav-asm, the assembler as a command.
+#include <filesystem>
+#include <iostream>
+#include <string>
+#include <vector>
+
+#include "assembler/command_line.h"
+#include "assembler/run.h"
+
+namespace {
+
+/// The folder that the running program lies in.
+std::string programFolder(const char* calledAs) {
+    std::error_code error;
+    const std::filesystem::path itself = std::filesystem::read_symlink("/proc/self/exe", error);
+    return (error ? std::filesystem::path(calledAs) : itself).parent_path().string();
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    using namespace kav::assembler;
+    try {
+        const std::vector<std::string> arguments(argv + std::min(argc, 1), argv + argc);
+        return run(readCommandLine(arguments), programFolder(argc > 0 ? argv[0] : ""), std::cout, std::cerr);
+    } catch (const UsageError& error) {
+        std::cerr << "kav-asm: " << error.what() << "\nkav-asm --help shows what is possible.\n";
+        return kWrongUsage;
+    } catch (const std::exception& error) {
+        std::cerr << "kav-asm: " << error.what() << '\n';
+        return kFileTrouble;
+    }
+}
