@@ -27,6 +27,7 @@ Compiler::Compiler(Platform platform, ApplicationFolder applicationFolder)
       openSave_(*this),
       templates_(*this),
       build_(*this, [this]() -> dbgr& { return taskList(); }),
+      tools_(*this, *this),
       documents_(new QMdiArea(this)) {
     setObjectName("Compiler");
     setWindowTitle("KAV Compiler by Tamsin Orrel");

@@ -8,6 +8,7 @@
 #include "shell/preferences_file.h"
 #include "shell/recent_files.h"
 #include "shell/workspace.h"
+#include "tools/tool_commands.h"
 
 #include <functional>
 #include <map>
@@ -94,6 +95,7 @@ class Compiler : public QMainWindow, public Workspace {
     OpenSaveCommands openSave_;
     TemplateCommands templates_;
     BuildCommands build_;
+    ToolCommands tools_;
 
     QMdiArea* documents_;
     QLabel* firstPanel_ = nullptr;

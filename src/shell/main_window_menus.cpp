@@ -29,6 +29,7 @@ void Compiler::addHandlers() {
     }
     addHandler("bye", [this] { bye_Click(); });
     addHandler("vew_task", [this] { vew_task_Click(); });
+    addHandler("sprdef", [this] { tools_.sprdef_Click(); });
     for (int index = 0; index <= 3; ++index) {
         addHandler(
             "arr", [this, index] { arr_Click(index); }, index);

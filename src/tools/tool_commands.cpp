@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The commands that open the tool windows, and what outlives those windows.
+#include "tools/tool_commands.h"
+
+#include "shell/workspace.h"
+#include "tools/sprite_editor_window.h"
+
+namespace kav {
+
+namespace {
+
+/// Brings the window to the front, a new one when none is open.
+template <typename Window, typename... Arguments>
+Window& openedOnce(QPointer<Window>& window, Arguments&&... arguments) {
+    // A closed window is still there for a moment, until the toolkit deletes it.
+    const bool isOpen = window != nullptr && window->isVisible();
+    if (!isOpen) window = new Window(std::forward<Arguments>(arguments)...);
+    window->bringToFront();
+    return *window;
+}
+
+}  // namespace
+
+ToolCommands::ToolCommands(Workspace& workspace, QWidget& owner) : workspace_(workspace), owner_(owner) {}
+
+void ToolCommands::sprdef_Click() {
+    openedOnce(spriteEditor_, workspace_, &owner_, sprite_);
+}
+
+}  // namespace kav

@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What all tool windows share: modeless over the main window, controls placed in twips.
+#include "tools/tool_window.h"
+
+#include "documents/document_window.h"
+#include "documents/text_box.h"
+#include "shell/workspace.h"
+
+namespace kav {
+
+namespace {
+
+/// The text height, in logical pixels, that the windows' places in twips are made for.
+constexpr int kTextSize = 11;
+
+}  // namespace
+
+// A dialog rather than a tool window: the toolkit would hand a tool window's keys to its owner's menu.
+ToolWindow::ToolWindow(Workspace& workspace, QWidget* owner, const char* name, const char* caption)
+    : QWidget(owner, Qt::Dialog), workspace_(workspace) {
+    setObjectName(name);
+    setWindowTitle(caption);
+    setAttribute(Qt::WA_DeleteOnClose);
+}
+
+void ToolWindow::bringToFront() {
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    show();
+    raise();
+    activateWindow();
+}
+
+void ToolWindow::adopt(QWidget& control, const char* name, const TwipsRect& at) {
+    control.setObjectName(name);
+    control.setGeometry(at.toPixels());
+    QFont font = control.font();
+    font.setPixelSize(kTextSize);
+    control.setFont(font);
+    // A press that a control has no use for is not one on the window below it.
+    control.setAttribute(Qt::WA_NoMousePropagation);
+}
+
+void ToolWindow::insertAtCursor(const std::string& text) {
+    Doc* document = workspace_.activeDocument();
+    if (workspace_.values().openDocuments == 0 || document == nullptr) return;
+    document->txt().replaceSelection(text);
+}
+
+}  // namespace kav
