@@ -2,6 +2,7 @@
 // The include files, assembled in the ways that programs use them.
 #include "support/application_folder.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 
 namespace kav::test {
@@ -110,6 +111,14 @@ TEST(IncludeFiles, TheMacrosThatTheEditorAddsGoWithEachOfThem) {
         EXPECT_EQ(plus({include}, macros + " disp($1234)\r\n"), (Bytes{0x21, 0x34, 0x12, 0xEF, 0x0A, 0x45}))
             << include;
     }
+}
+
+TEST(IncludeFiles, LeaveTheListingToTheProgram) {
+    ApplicationFolder folder(KAV_INCLUDE_FOLDER);
+    folder.build("a", "#include \"ti83plus.inc\"\r\n .org userMem-2\r\n .db $BB,$6D\r\n ret\r\n");
+    const std::string listing = readFile(folder.file("temp.lst"));
+    EXPECT_LT(std::count(listing.begin(), listing.end(), '\n'), 40);
+    EXPECT_NE(listing.find("9D95  C9"), std::string::npos);
 }
 
 TEST(IncludeFiles, ProgramsMayDefineTheCallsThemselves) {
