@@ -60,6 +60,23 @@ TEST_F(AsmScript, HandsTheNameToTheAssemblerInItsOwnFolder) {
     EXPECT_FALSE(fileExists(file("temp.lst")));
 }
 
+TEST_F(AsmScript, BuildsWithTheAssembler) {
+    fs::copy_file(KAV_ASM_COMMAND, file("kav-asm"));
+    writeFile(file("hello.z80"), " .org $9D93\r\n .db $BB,$6D\r\n ret\r\n");
+    EXPECT_EQ(run("hello"), 0) << output();
+    EXPECT_EQ(readFile(file("errLog.txt")), "0\r\n");
+    EXPECT_TRUE(fileExists(file("hello.8xp")));
+    EXPECT_TRUE(fileExists(file("hello.83p")));
+    EXPECT_NE(output().find("Success."), std::string::npos);
+}
+
+TEST_F(AsmScript, ANameThatLooksLikeAnOptionIsABadName) {
+    fs::copy_file(KAV_ASM_COMMAND, file("kav-asm"));
+    EXPECT_EQ(run("--help"), 1);
+    EXPECT_EQ(readFile(file("errLog.txt")), "1\r\n");
+    EXPECT_NE(readFile(file("temp.lst")).find("line 0001: Program name \"--help\""), std::string::npos);
+}
+
 TEST_F(AsmScript, NeverLooksIntoTheName) {
     assemblerDoes("printf '%s' \"$2\" >arguments; printf '1\\r\\n' >errLog.txt; exit 1");
     for (const std::string name :

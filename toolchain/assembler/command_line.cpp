@@ -12,6 +12,7 @@ namespace {
 
 constexpr std::string_view kHelp =
     "Usage: kav-asm [options] FILE\n"
+    "       kav-asm --build NAME\n"
     "Assembles Z80 source for the TI-83 and TI-83 Plus.\n"
     "\n"
     "  -o, --output FILE     write the program here (default: the source's name with\n"
@@ -28,6 +29,9 @@ constexpr std::string_view kHelp =
     "      --strict          accept nothing beyond the dialect itself\n"
     "  -h, --help            show this text\n"
     "      --version         show the version\n"
+    "\n"
+    "--build assembles NAME.z80 of the current folder for both calculators, as the editor\n"
+    "asks for it: programs NAME.8xp and NAME.83p, listing temp.lst, verdict errLog.txt.\n"
     "\n"
     "Exit codes: 0 success, 1 errors in the source, 2 usage, 3 files.\n";
 

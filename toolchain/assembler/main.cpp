@@ -7,6 +7,7 @@
 
 #include "assembler/command_line.h"
 #include "assembler/run.h"
+#include "build_protocol/build.h"
 
 namespace {
 
@@ -23,6 +24,10 @@ int main(int argc, char** argv) {
     using namespace kav::assembler;
     try {
         const std::vector<std::string> arguments(argv + std::min(argc, 1), argv + argc);
+        // The editor's build, whose name may be anything that its user typed, even an option.
+        if (arguments.size() == 2 && arguments[0] == "--build") {
+            return kav::runBuild(".", arguments[1], std::cout);
+        }
         return run(readCommandLine(arguments), programFolder(argc > 0 ? argv[0] : ""), std::cout, std::cerr);
     } catch (const UsageError& error) {
         std::cerr << "kav-asm: " << error.what() << "\nkav-asm --help shows what is possible.\n";
