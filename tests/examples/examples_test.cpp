@@ -54,6 +54,29 @@ TEST(Examples, HelloPrintsItsGreetingAndWaitsForAKey) {
     EXPECT_EQ(calculator.screen(), screenOf({}));
 }
 
+TEST(Examples, MacrosOfTheEditorPrintAndWait) {
+    ApplicationFolder folder(KAV_INCLUDE_FOLDER);
+    folder.tick(false, true);
+    folder.build("macros",
+                 "#define dispause(xxxx) ld hl,xxxx \\ .db $EF,$0A,$45,$EF,$72,$49\r\n"
+                 "#define disp(xxxx) ld hl,xxxx \\ .db $EF,$0A,$45\r\n"
+                 "#define pause() .db $EF,$72,$49\r\n"
+                 "#define pausecsc() .db $EF,$18,$40,$FE,$00,$28,$F9\r\n"
+                 "#include \"ti83plus.inc\"\r\n .org userMem-2\r\n .db $BB,$6D\r\n"
+                 " disp(one)\r\n pause()\r\n dispause(two)\r\n pausecsc()\r\n ret\r\n"
+                 "one: .db \"one \",0\r\ntwo: .db \"two\",0\r\n");
+    Emulator calculator(folder.program("macros", Calculator::Ti83Plus), Shell::Asm);
+    ASSERT_EQ(calculator.run(), Stop::WaitsForKey);
+    EXPECT_EQ(calculator.row(0), "one");
+    pressWhenAsked(calculator, kEnter);
+    ASSERT_EQ(calculator.run(), Stop::WaitsForKey);
+    EXPECT_EQ(calculator.row(0), "one two");
+    calculator.press({kEnter});
+    EXPECT_EQ(calculator.run(10'000), Stop::TooManySteps);  // waits for a scan code
+    calculator.press({0x09});
+    EXPECT_EQ(calculator.run(), Stop::Returned);
+}
+
 TEST(Examples, KavShellProgramCountsKeys) {
     Emulator calculator(example("kavshell"), Shell::Kav);
     ASSERT_EQ(calculator.run(), Stop::WaitsForKey);
