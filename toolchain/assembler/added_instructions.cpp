@@ -2,11 +2,11 @@
 // Instructions that a source adds with .addinstr.
 #include "assembler/added_instructions.h"
 
-#include <optional>
-
 #include "assembler/characters.h"
 #include "assembler/number.h"
 #include "assembler/text.h"
+
+#include <optional>
 
 namespace kav::assembler {
 

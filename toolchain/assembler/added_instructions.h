@@ -20,9 +20,9 @@ enum class ArgumentRule {
 
 /// One added form of an instruction.
 struct AddedInstruction {
-    std::string pattern;                  ///< the arguments in lower case without blanks, `*` for an expression
+    std::string pattern;  ///< the arguments in lower case without blanks, `*` for an expression
     std::vector<std::uint8_t> opcode;
-    int size = 0;                         ///< of the whole instruction in bytes
+    int size = 0;  ///< of the whole instruction in bytes
     ArgumentRule rule = ArgumentRule::kPlain;
 };
 

@@ -2,10 +2,10 @@
 // The assembler: source in, bytes, messages, labels and a listing out.
 #include "assembler/assembler.h"
 
+#include "assembler/pass.h"
+
 #include <algorithm>
 #include <memory>
-
-#include "assembler/pass.h"
 
 namespace kav::assembler {
 
@@ -49,7 +49,9 @@ Result assemble(SourceFiles& sources, const std::string& mainFile, const Options
     Knowledge knowledge;
     for (int number = 1;; ++number) {
         const bool last = number == kMostPasses;
-        const Pass::Turn turn = number == 1 ? Pass::Turn::kFirst : last ? Pass::Turn::kLast : Pass::Turn::kLater;
+        const Pass::Turn turn = number == 1 ? Pass::Turn::kFirst
+                                : last      ? Pass::Turn::kLast
+                                            : Pass::Turn::kLater;
         Pass pass(sources, options, knowledge, turn);
         if (runPass(pass, mainFile) || last) return resultOf(pass);
     }

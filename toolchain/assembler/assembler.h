@@ -2,14 +2,14 @@
 // The assembler: source in, bytes, messages, labels and a listing out.
 #pragma once
 
+#include "assembler/message.h"
+#include "assembler/source_files.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <string>
 #include <utility>
 #include <vector>
-
-#include "assembler/message.h"
-#include "assembler/source_files.h"
 
 namespace kav::assembler {
 

@@ -42,9 +42,12 @@ class CharacterTable {
   public:
     constexpr CharacterTable() {
         parts_[' '] = parts_['\t'] = parts_['\v'] = parts_['\f'] = parts_['\r'] = kBlankCharacter;
-        for (char c = 'a'; c <= 'z'; ++c) parts_[index(c)] = kNameStart | kNamePart;
-        for (char c = 'A'; c <= 'Z'; ++c) parts_[index(c)] = kNameStart | kNamePart;
-        for (char c = '0'; c <= '9'; ++c) parts_[index(c)] = kDigit | kNamePart;
+        for (char c = 'a'; c <= 'z'; ++c)
+            parts_[index(c)] = kNameStart | kNamePart;
+        for (char c = 'A'; c <= 'Z'; ++c)
+            parts_[index(c)] = kNameStart | kNamePart;
+        for (char c = '0'; c <= '9'; ++c)
+            parts_[index(c)] = kDigit | kNamePart;
         parts_['_'] = kNameStart | kNamePart;
         parts_['.'] = kNamePart;
     }
@@ -59,13 +62,15 @@ class CharacterTable {
 
     /// The position behind the name that begins at `from`.
     [[nodiscard]] constexpr std::size_t endOfName(std::string_view text, std::size_t from) const {
-        while (from < text.size() && isNamePart(text[from])) ++from;
+        while (from < text.size() && isNamePart(text[from]))
+            ++from;
         return from;
     }
 
     /// The first position from `from` on that holds no blank.
     [[nodiscard]] constexpr std::size_t skipBlanks(std::string_view text, std::size_t from) const {
-        while (from < text.size() && isBlank(text[from])) ++from;
+        while (from < text.size() && isBlank(text[from]))
+            ++from;
         return from;
     }
 

@@ -2,9 +2,9 @@
 // What the user asks of kav-asm.
 #include "assembler/command_line.h"
 
-#include <optional>
-
 #include "assembler/characters.h"
+
+#include <optional>
 
 namespace kav::assembler {
 
@@ -42,9 +42,9 @@ struct OptionName {
 };
 
 constexpr OptionName kOptions[] = {
-    {'o', "output", true},  {'t', "target", true},   {'D', "define", true},
-    {'I', "include", true}, {'l', "listing", true},  {'s', "symbols", true},
-    {'S', "strict", false}, {'h', "help", false},    {'V', "version", false},
+    {'o', "output", true},  {'t', "target", true},  {'D', "define", true},
+    {'I', "include", true}, {'l', "listing", true}, {'s', "symbols", true},
+    {'S', "strict", false}, {'h', "help", false},   {'V', "version", false},
 };
 
 struct Given {
@@ -148,7 +148,8 @@ CommandLine readCommandLine(const std::vector<std::string>& arguments) {
                 if (++i == arguments.size()) throw UsageError(argument + " needs a value");
                 given.value = arguments[i];
             }
-            if (takesValue(given.letter) && given.value->empty()) throw UsageError(argument + " needs a value");
+            if (takesValue(given.letter) && given.value->empty())
+                throw UsageError(argument + " needs a value");
             apply(line, target, given.letter, given.value.value_or(""));
         } else if (line.source.empty() && !argument.empty()) {
             line.source = argument;
@@ -161,6 +162,8 @@ CommandLine readCommandLine(const std::vector<std::string>& arguments) {
     return line;
 }
 
-std::string_view helpText() { return kHelp; }
+std::string_view helpText() {
+    return kHelp;
+}
 
 }  // namespace kav::assembler

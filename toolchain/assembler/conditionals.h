@@ -2,10 +2,10 @@
 // Which lines #if and its kin leave out.
 #pragma once
 
+#include "assembler/diagnostics.h"
+
 #include <cstddef>
 #include <vector>
-
-#include "assembler/diagnostics.h"
 
 namespace kav::assembler {
 
@@ -56,8 +56,8 @@ class Conditionals {
   private:
     struct Level {
         Location where;
-        bool active;   ///< its present branch is assembled
-        bool done;     ///< a branch was taken, or none may be
+        bool active;  ///< its present branch is assembled
+        bool done;    ///< a branch was taken, or none may be
         bool hadElse;
     };
 

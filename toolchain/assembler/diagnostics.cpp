@@ -57,7 +57,8 @@ std::vector<Message> Diagnostics::sorted() const {
                      [](const Entry& a, const Entry& b) { return a.order < b.order; });
     std::vector<Message> messages;
     messages.reserve(ordered.size());
-    for (Entry& entry : ordered) messages.push_back(std::move(entry.message));
+    for (Entry& entry : ordered)
+        messages.push_back(std::move(entry.message));
     return messages;
 }
 

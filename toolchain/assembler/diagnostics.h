@@ -2,13 +2,13 @@
 // Collects the messages of a pass in the order of the source.
 #pragma once
 
+#include "assembler/message.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <exception>
 #include <string>
 #include <vector>
-
-#include "assembler/message.h"
 
 namespace kav::assembler {
 

@@ -34,8 +34,12 @@ void giveValue(Pass& pass, const Statement& statement, LabelKind kind) {
     pass.defineLabel(statement.label, value.value_or(0), kind);
 }
 
-void runEqu(Pass& pass, const Statement& statement) { giveValue(pass, statement, LabelKind::kEquate); }
-void runSet(Pass& pass, const Statement& statement) { giveValue(pass, statement, LabelKind::kVariable); }
+void runEqu(Pass& pass, const Statement& statement) {
+    giveValue(pass, statement, LabelKind::kEquate);
+}
+void runSet(Pass& pass, const Statement& statement) {
+    giveValue(pass, statement, LabelKind::kVariable);
+}
 
 void runModule(Pass& pass, const Statement& statement) {
     if (statement.operands.empty()) {
@@ -49,7 +53,8 @@ void runLocalLabelChar(Pass& pass, const Statement& statement) {
     const std::string_view given = statement.operands;
     const bool quoted = given.size() == 3 && given[0] == given[2] && (given[0] == '"' || given[0] == '\'');
     if (!quoted || pass.characters.isBlank(given[1])) {
-        pass.error("Invalid token where value expected: " + shown(given) + " (one character in quotes was expected)");
+        pass.error("Invalid token where value expected: " + shown(given) +
+                   " (one character in quotes was expected)");
         return;
     }
     pass.world.localLabelMark = given[1];
@@ -90,7 +95,9 @@ void emitData(Pass& pass, const Statement& statement, FieldKind kind) {
     } while (reader.next(item));
 }
 
-void runByte(Pass& pass, const Statement& statement) { emitData(pass, statement, FieldKind::kByte); }
+void runByte(Pass& pass, const Statement& statement) {
+    emitData(pass, statement, FieldKind::kByte);
+}
 
 void runWord(Pass& pass, const Statement& statement) {
     emitData(pass, statement, pass.highByteFirst ? FieldKind::kWordHighFirst : FieldKind::kWord);
@@ -116,7 +123,8 @@ void runFill(Pass& pass, const Statement& statement) {
                    " (-128 to 255 is possible)");
         return;
     }
-    for (std::int32_t i = 0; i < *count; ++i) pass.emit(static_cast<std::uint8_t>(*byte & 0xFF));
+    for (std::int32_t i = 0; i < *count; ++i)
+        pass.emit(static_cast<std::uint8_t>(*byte & 0xFF));
 }
 
 void runChk(Pass& pass, const Statement& statement) {
@@ -130,14 +138,24 @@ void runChk(Pass& pass, const Statement& statement) {
     pass.emitChecksum(*from);
 }
 
-void runMsFirst(Pass& pass, const Statement& /*statement*/) { pass.highByteFirst = true; }
-void runLsFirst(Pass& pass, const Statement& /*statement*/) { pass.highByteFirst = false; }
+void runMsFirst(Pass& pass, const Statement& /*statement*/) {
+    pass.highByteFirst = true;
+}
+void runLsFirst(Pass& pass, const Statement& /*statement*/) {
+    pass.highByteFirst = false;
+}
 
 // The rest
 
-void runEnd(Pass& pass, const Statement& /*statement*/) { pass.fileEnded = true; }
-void runList(Pass& pass, const Statement& /*statement*/) { pass.listing = true; }
-void runNolist(Pass& pass, const Statement& /*statement*/) { pass.listing = false; }
+void runEnd(Pass& pass, const Statement& /*statement*/) {
+    pass.fileEnded = true;
+}
+void runList(Pass& pass, const Statement& /*statement*/) {
+    pass.listing = true;
+}
+void runNolist(Pass& pass, const Statement& /*statement*/) {
+    pass.listing = false;
+}
 void runNothing(Pass& /*pass*/, const Statement& /*statement*/) {}
 
 void runEcho(Pass& pass, const Statement& statement) {
@@ -159,7 +177,8 @@ void runEcho(Pass& pass, const Statement& statement) {
 
 void runExport(Pass& pass, const Statement& statement) {
     ListReader reader(statement.operands);
-    for (std::string_view name; reader.next(name);) pass.valueNow(name);
+    for (std::string_view name; reader.next(name);)
+        pass.valueNow(name);
 }
 
 void runAddInstr(Pass& pass, const Statement& statement) {
@@ -188,7 +207,8 @@ constexpr Directive kDirectives[] = {
 
 consteval WordIndex indexDirectives() {
     WordIndex index;
-    for (std::size_t i = 0; i < std::size(kDirectives); ++i) index.add(wordKey(kDirectives[i].name), i);
+    for (std::size_t i = 0; i < std::size(kDirectives); ++i)
+        index.add(wordKey(kDirectives[i].name), i);
     return index;
 }
 
@@ -214,7 +234,8 @@ const Directive* directiveCalled(std::string_view operation, const Statement& st
 
 void considerDirectives(NearestWord& nearest, bool withPeriod) {
     for (const Directive& directive : kDirectives) {
-        if (directive.name.back() != '=') nearest.consider((withPeriod ? "." : "") + std::string(directive.name));
+        if (directive.name.back() != '=')
+            nearest.consider((withPeriod ? "." : "") + std::string(directive.name));
     }
 }
 

@@ -2,11 +2,11 @@
 // The directives that begin with a period, or go without it.
 #pragma once
 
-#include <string_view>
-
 #include "assembler/pass.h"
 #include "assembler/statement.h"
 #include "assembler/suggestion.h"
+
+#include <string_view>
 
 namespace kav::assembler {
 
@@ -21,7 +21,7 @@ struct Directive {
 [[nodiscard]] const Directive* directiveCalled(std::string_view operation, const Statement& statement,
                                                bool strict);
 
-/// Offers the names of all directives as what a misspelt word may have meant.
+/// Offers the names of all directives, with their period or without, as what a misspelt word may have meant.
 void considerDirectives(NearestWord& nearest, bool withPeriod);
 
 }  // namespace kav::assembler

@@ -11,21 +11,30 @@ namespace kav::assembler {
 
 namespace {
 
-constexpr std::size_t kMostForms = 8;
+constexpr std::size_t kMostForms = 5;
 
 /// The names of the operand classes, by the number of their bit.
 constexpr std::string_view kClassNames[] = {
-    "a",    "c",    "b",    "h",      "ixh",  "f",      "i",    "r", "bc", "de",
-    "hl",   "sp",   "af",   "af'",    "ix",   "(hl)",   "(bc)", "(de)", "(sp)", "(c)",
-    "(ix)", "(ix+d)", "(nn)", "n", "nz", "nz",
+    "a",         "c",      "b/d/e", "h/l", "ixh/ixl/iyh/iyl", "f",         "i",    "r",    "bc",   "de",
+    "hl",        "sp",     "af",    "af'", "ix/iy",           "(hl)",      "(bc)", "(de)", "(sp)", "(c)",
+    "(ix)/(iy)", "(ix+d)", "(nn)",  "n",   "condition",       "condition",
 };
 
 constexpr std::uint32_t kAllRegisters = kRegA | kRegC | kRegBde | kRegHl;
 
-/// The word for an operand: that of its first class, and of all eight-bit registers together "r".
+/// The words for what an operand can be; all eight-bit registers together are "r8".
 std::string wordFor(std::uint32_t classes) {
-    if ((classes & kAllRegisters) == kAllRegisters) return "r";
-    return std::string(kClassNames[static_cast<std::size_t>(std::countr_zero(classes))]);
+    if ((classes & kPairAfShadow) != 0) return "af'";
+    std::string words;
+    if ((classes & kAllRegisters) == kAllRegisters) {
+        words = "r8";
+        classes &= ~kAllRegisters;
+    }
+    for (; classes != 0; classes &= classes - 1) {
+        words += words.empty() ? "" : "/";
+        words += kClassNames[static_cast<std::size_t>(std::countr_zero(classes))];
+    }
+    return words;
 }
 
 std::string wordsFor(const InstructionForm& form) {
@@ -39,9 +48,12 @@ std::string wordsFor(const InstructionForm& form) {
 
 }  // namespace
 
-std::string expectedOperands(std::span<const InstructionForm> forms) {
+std::string expectedOperands(std::span<const InstructionForm> forms, std::uint32_t firstClasses) {
+    const auto begins = [&](const InstructionForm& form) { return (form.operands[0] & firstClasses) != 0; };
+    const bool narrowed = std::any_of(forms.begin(), forms.end(), begins);
     std::vector<std::string> all;
     for (const InstructionForm& form : forms) {
+        if (narrowed && !begins(form)) continue;
         const std::string words = wordsFor(form);
         if (std::find(all.begin(), all.end(), words) == all.end()) all.push_back(words);
     }

@@ -2,14 +2,17 @@
 // What an instruction takes, in words, for messages.
 #pragma once
 
+#include "assembler/instruction_table.h"
+
+#include <cstdint>
 #include <span>
 #include <string>
 
-#include "assembler/instruction_table.h"
-
 namespace kav::assembler {
 
-/// " (a,n or hl,bc is possible)" and the like; at most the first six forms.
-[[nodiscard]] std::string expectedOperands(std::span<const InstructionForm> forms);
+/// " (expected: a,n or hl,bc/de/hl/sp)" and the like, at most five forms: those that begin with an operand of
+/// the given classes, or all when there are none.
+[[nodiscard]] std::string expectedOperands(std::span<const InstructionForm> forms,
+                                           std::uint32_t firstClasses);
 
 }  // namespace kav::assembler

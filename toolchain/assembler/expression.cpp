@@ -11,8 +11,12 @@ namespace {
 
 constexpr int kDeepestNesting = 200;
 
-std::int32_t toSigned(std::uint32_t bits) { return static_cast<std::int32_t>(bits); }
-std::uint32_t toBits(std::int32_t number) { return static_cast<std::uint32_t>(number); }
+std::int32_t toSigned(std::uint32_t bits) {
+    return static_cast<std::int32_t>(bits);
+}
+std::uint32_t toBits(std::int32_t number) {
+    return static_cast<std::uint32_t>(number);
+}
 
 std::int32_t shiftedLeft(std::int32_t number, std::int32_t by) {
     return by < 0 || by > 31 ? 0 : toSigned(toBits(number) << by);
@@ -130,8 +134,9 @@ Value Evaluator::character() {
     if (end <= cursor_ + 1 || text_[end - 1] != '\'') return bad("No terminating quote: " + shown(text_));
     std::size_t position = cursor_ + 1;
     const bool escaped = text_[position] == '\\' && end == position + 3;
-    const std::int32_t code = escaped ? escapedCharacter(text_, position)
-                                      : static_cast<std::int32_t>(static_cast<unsigned char>(text_[position]));
+    const std::int32_t code = escaped
+                                  ? escapedCharacter(text_, position)
+                                  : static_cast<std::int32_t>(static_cast<unsigned char>(text_[position]));
     cursor_ = end;
     return {Value::kKnown, code};
 }

@@ -2,15 +2,15 @@
 // Expressions: 32 bits, signed, from left to right without precedence.
 #pragma once
 
+#include "assembler/characters.h"
+#include "assembler/number.h"
+#include "assembler/symbol_table.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
-
-#include "assembler/characters.h"
-#include "assembler/number.h"
-#include "assembler/symbol_table.h"
 
 namespace kav::assembler {
 
@@ -55,9 +55,9 @@ struct ExpressionWorld {
     AnonymousLabels& anonymous;
     const CharacterTable& characters;
     char localLabelMark = '_';
-    bool strict = false;            ///< refuse what the dialect itself does not have
-    bool labelsMayFollow = true;    ///< false once a label without a value is an error
-    bool usePreviousPass = false;   ///< labels that follow have the value of the pass before
+    bool strict = false;           ///< refuse what the dialect itself does not have
+    bool labelsMayFollow = true;   ///< false once a label without a value is an error
+    bool usePreviousPass = false;  ///< labels that follow have the value of the pass before
 };
 
 /// Finds the value of expressions. One at a time; the error is that of the last one.

@@ -8,24 +8,32 @@ namespace kav::assembler {
 
 namespace {
 
-std::uint8_t lowByte(std::int32_t value) { return static_cast<std::uint8_t>(value & 0xFF); }
-std::uint8_t highByte(std::int32_t value) { return static_cast<std::uint8_t>((value >> 8) & 0xFF); }
+std::uint8_t lowByte(std::int32_t value) {
+    return static_cast<std::uint8_t>(value & 0xFF);
+}
+std::uint8_t highByte(std::int32_t value) {
+    return static_cast<std::uint8_t>((value >> 8) & 0xFF);
+}
 
 bool within(std::int32_t value, std::int32_t least, std::int32_t most) {
     return value >= least && value <= most;
 }
 
-std::string outside(std::int32_t value, std::string_view expression, std::string_view range) {
-    std::string text = "Range of argument exceeded: " + shown(expression);
+std::string problemWith(std::string_view kind, std::int32_t value, std::string_view expression,
+                        std::string_view range) {
+    std::string text = std::string(kind) + ": " + shown(expression);
     const std::string number = std::to_string(value);
-    if (text.substr(text.size() - number.size()) != number) text += " is " + number;
+    if (trimmed(expression) != number) text += " is " + number;
     return text + " (" + std::string(range) + " is possible)";
+}
+
+std::string outside(std::int32_t value, std::string_view expression, std::string_view range) {
+    return problemWith("Range of argument exceeded", value, expression, range);
 }
 
 std::string storeByte(Image& image, std::int32_t address, std::int32_t value, std::string_view expression) {
     if (!within(value, -128, 255)) {
-        return "Unused data in MS byte of argument: " + shown(expression) + " is " + std::to_string(value) +
-               " (-128 to 255 is possible)";
+        return problemWith("Unused data in MS byte of argument", value, expression, "-128 to 255");
     }
     image.put(address, lowByte(value));
     return {};

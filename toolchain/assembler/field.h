@@ -2,13 +2,13 @@
 // Values as they are stored into the bytes of a program, each with the range that it must keep.
 #pragma once
 
-#include <cstdint>
-#include <string>
-#include <string_view>
-
 #include "assembler/diagnostics.h"
 #include "assembler/expression.h"
 #include "assembler/image.h"
+
+#include <cstdint>
+#include <string>
+#include <string_view>
 
 namespace kav::assembler {
 

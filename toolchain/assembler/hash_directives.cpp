@@ -71,8 +71,12 @@ void readIfdefOrIfndef(Pass& pass, std::string_view text, bool wanted) {
     openConditional(pass, !name.empty() && isDefined(pass, name) == wanted);
 }
 
-void readIfdef(Pass& pass, std::string_view text) { readIfdefOrIfndef(pass, text, true); }
-void readIfndef(Pass& pass, std::string_view text) { readIfdefOrIfndef(pass, text, false); }
+void readIfdef(Pass& pass, std::string_view text) {
+    readIfdefOrIfndef(pass, text, true);
+}
+void readIfndef(Pass& pass, std::string_view text) {
+    readIfdefOrIfndef(pass, text, false);
+}
 
 void readElse(Pass& pass, std::string_view /*text*/) {
     if (pass.conditionals.turnToElse()) return;
@@ -119,8 +123,12 @@ void include(Pass& pass, std::string_view text, bool once) {
     --pass.includeDepth;
 }
 
-void readInclude(Pass& pass, std::string_view text) { include(pass, text, false); }
-void readImport(Pass& pass, std::string_view text) { include(pass, text, true); }
+void readInclude(Pass& pass, std::string_view text) {
+    include(pass, text, false);
+}
+void readImport(Pass& pass, std::string_view text) {
+    include(pass, text, true);
+}
 
 // Macros
 
@@ -136,7 +144,8 @@ bool readParameters(Pass& pass, std::string_view& text, Macro& macro) {
     if (macro.parameters.size() == 1 && macro.parameters.front().empty()) macro.parameters.clear();
     for (const std::string& parameter : macro.parameters) {
         if (!parameter.empty() && firstName(pass, parameter) == parameter) continue;
-        pass.error("Invalid token where value expected: " + shown(parameter) + " (a parameter's name was expected)");
+        pass.error("Invalid token where value expected: " + shown(parameter) +
+                   " (a parameter's name was expected)");
         return false;
     }
     return true;
@@ -190,18 +199,27 @@ struct HashDirective {
 };
 
 constexpr HashDirective kDirectives[] = {
-    {"if", readIf, true, false},           {"ifdef", readIfdef, true, false},
-    {"ifndef", readIfndef, true, false},   {"else", readElse, true, false},
-    {"elif", readElif, true, true},        {"endif", readEndif, true, false},
-    {"include", readInclude, false, false}, {"import", readImport, false, true},
-    {"define", readDefine, false, false},  {"defcont", readDefcont, false, false},
-    {"undef", readUndefine, false, true},  {"undefine", readUndefine, false, true},
-    {"macro", readMacro, false, true},     {"endmacro", readEndmacro, false, true},
+    {"if", readIf, true, false},
+    {"ifdef", readIfdef, true, false},
+    {"ifndef", readIfndef, true, false},
+    {"else", readElse, true, false},
+    {"elif", readElif, true, true},
+    {"endif", readEndif, true, false},
+    {"include", readInclude, false, false},
+    {"import", readImport, false, true},
+    {"define", readDefine, false, false},
+    {"defcont", readDefcont, false, false},
+    {"undef", readUndefine, false, true},
+    {"undefine", readUndefine, false, true},
+    {"macro", readMacro, false, true},
+    {"endmacro", readEndmacro, false, true},
 };
 
 void reportUnknown(Pass& pass, std::string_view word) {
     NearestWord nearest(word);
-    for (const HashDirective& directive : kDirectives) nearest.consider(directive.name);
+    for (const HashDirective& directive : kDirectives) {
+        if (!directive.extension || !pass.options.strict) nearest.consider(directive.name);
+    }
     const std::string best = nearest.best().empty() ? "" : "#" + nearest.best();
     pass.error("Unrecognized directive: #" + shown(word) + didYouMean(best));
 }

@@ -2,9 +2,9 @@
 // The directives that begin with #: includes, macros and conditionals.
 #pragma once
 
-#include <string_view>
-
 #include "assembler/pass.h"
+
+#include <string_view>
 
 namespace kav::assembler {
 

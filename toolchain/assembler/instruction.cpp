@@ -2,11 +2,11 @@
 // Instructions turned into bytes.
 #include "assembler/instruction.h"
 
-#include <array>
-
 #include "assembler/expected_operands.h"
 #include "assembler/operand.h"
 #include "assembler/text.h"
+
+#include <array>
 
 namespace kav::assembler {
 
@@ -119,7 +119,9 @@ void emitForm(Pass& pass, const InstructionForm& form, const Operands& operands)
     }
 }
 
-bool loads(std::string_view mnemonic) { return equalIgnoringCase(mnemonic, "ld"); }
+bool loads(std::string_view mnemonic) {
+    return equalIgnoringCase(mnemonic, "ld");
+}
 
 }  // namespace
 
@@ -146,7 +148,8 @@ void assembleInstruction(Pass& pass, std::string_view mnemonic, std::string_view
     }
     if (form == nullptr) {
         const std::string given = operandText.empty() ? "none" : shown(operandText);
-        pass.error("Unrecognized argument: " + given + " for " + shown(mnemonic) + expectedOperands(forms));
+        pass.error("Unrecognized argument: " + given + " for " + shown(mnemonic) +
+                   expectedOperands(forms, operands[0].classes));
         return;
     }
     emitForm(pass, *form, operands);
@@ -155,7 +158,8 @@ void assembleInstruction(Pass& pass, std::string_view mnemonic, std::string_view
 void assembleAdded(Pass& pass, const AddedMatch& match) {
     const AddedInstruction& added = *match.instruction;
     const std::int32_t start = pass.location;
-    for (const std::uint8_t byte : added.opcode) pass.emit(byte);
+    for (const std::uint8_t byte : added.opcode)
+        pass.emit(byte);
     const std::int32_t lastOpcode = pass.location - 1;
     std::size_t next = 0;
     if (added.rule == ArgumentRule::kBit && !match.arguments.empty()) {
@@ -170,10 +174,13 @@ void assembleAdded(Pass& pass, const AddedMatch& match) {
         const std::int32_t room = start + added.size - pass.location;
         const bool relative = added.rule == ArgumentRule::kRelative;
         if (room <= 0) break;
-        const FieldKind kind = relative ? FieldKind::kRelative : room == 1 ? FieldKind::kByte : FieldKind::kWord;
+        const FieldKind kind = relative    ? FieldKind::kRelative
+                               : room == 1 ? FieldKind::kByte
+                                           : FieldKind::kWord;
         pass.emitField(kind, match.arguments[next]);
     }
-    while (pass.location < start + added.size) pass.emit(0);
+    while (pass.location < start + added.size)
+        pass.emit(0);
 }
 
 }  // namespace kav::assembler

@@ -2,11 +2,11 @@
 // Instructions turned into bytes.
 #pragma once
 
-#include <span>
-#include <string_view>
-
 #include "assembler/instruction_table.h"
 #include "assembler/pass.h"
+
+#include <span>
+#include <string_view>
 
 namespace kav::assembler {
 

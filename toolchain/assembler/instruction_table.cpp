@@ -216,7 +216,8 @@ constexpr std::size_t kMnemonicCount = countMnemonics();
 
 consteval auto collectForms() {
     std::array<InstructionForm, kRowCount> forms{};
-    for (std::size_t i = 0; i < kRowCount; ++i) forms[i] = kRows[i].form;
+    for (std::size_t i = 0; i < kRowCount; ++i)
+        forms[i] = kRows[i].form;
     return forms;
 }
 
@@ -252,7 +253,8 @@ consteval auto collectRows() {
 
 consteval WordIndex indexMnemonics() {
     WordIndex index;
-    for (std::size_t i = 0; i < kMnemonicCount; ++i) index.add(wordKey(kMnemonics[i]), i);
+    for (std::size_t i = 0; i < kMnemonicCount; ++i)
+        index.add(wordKey(kMnemonics[i]), i);
     return index;
 }
 
@@ -268,6 +270,8 @@ std::span<const InstructionForm> formsOf(std::string_view mnemonic) {
     return std::span(kForms).subspan(rows.first, rows.count);
 }
 
-std::span<const std::string_view> mnemonics() { return kMnemonics; }
+std::span<const std::string_view> mnemonics() {
+    return kMnemonics;
+}
 
 }  // namespace kav::assembler

@@ -2,11 +2,11 @@
 // Reading source line by line.
 #include "assembler/lines.h"
 
-#include <cstring>
-
 #include "assembler/hash_directives.h"
 #include "assembler/statement.h"
 #include "assembler/text.h"
+
+#include <cstring>
 
 namespace kav::assembler {
 
@@ -76,7 +76,8 @@ void readListedLine(Pass& pass, std::string_view line) {
 
 void reportUnclosed(Pass& pass, std::size_t depth) {
     if (pass.macroBeingRead) {
-        pass.error("Imbalanced conditional: #macro " + shown(pass.macroBeingRead->name) + " has no #endmacro");
+        pass.error("Imbalanced conditional: #macro " + shown(pass.macroBeingRead->name) +
+                   " has no #endmacro");
         pass.macroBeingRead.reset();
     }
     while (pass.conditionals.depth() > depth) {

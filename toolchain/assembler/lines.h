@@ -2,10 +2,10 @@
 // Reading source line by line.
 #pragma once
 
+#include "assembler/pass.h"
+
 #include <memory>
 #include <string_view>
-
-#include "assembler/pass.h"
 
 namespace kav::assembler {
 

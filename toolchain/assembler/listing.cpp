@@ -14,7 +14,8 @@ constexpr int kLargestNumber = 9999;  // what four digits can show
 constexpr std::string_view kHexDigits = "0123456789ABCDEF";
 
 void addHex(std::string& out, unsigned value, int digits) {
-    for (int shift = (digits - 1) * 4; shift >= 0; shift -= 4) out += kHexDigits[(value >> shift) & 0xFU];
+    for (int shift = (digits - 1) * 4; shift >= 0; shift -= 4)
+        out += kHexDigits[(value >> shift) & 0xFU];
 }
 
 void addNumber(std::string& out, int number) {
@@ -71,7 +72,8 @@ void addError(std::string& out, const Message& message) {
 std::string writeListing(const std::vector<ListedLine>& lines, const Image& image,
                          const std::vector<Message>& messages) {
     std::string out;
-    for (const ListedLine& line : lines) addLine(out, line, image);
+    for (const ListedLine& line : lines)
+        addLine(out, line, image);
     const auto isError = [](const Message& message) { return message.severity == Severity::kError; };
     const auto errors = std::count_if(messages.begin(), messages.end(), isError);
     if (errors == 0) return out;

@@ -2,9 +2,9 @@
 // Textual macros: names that stand for text, with or without arguments.
 #include "assembler/macros.h"
 
-#include <algorithm>
-
 #include "assembler/text.h"
+
+#include <algorithm>
 
 namespace kav::assembler {
 
@@ -80,7 +80,9 @@ bool MacroTable::extendLast(std::string_view text) {
     return false;
 }
 
-const Macro* MacroTable::find(std::string_view name) const { return findForUse(name, false); }
+const Macro* MacroTable::find(std::string_view name) const {
+    return findForUse(name, false);
+}
 
 const Macro* MacroTable::findForUse(std::string_view name, bool argumentsFollow) const {
     if (name.empty() || !mayBeMacro(name)) return nullptr;

@@ -2,6 +2,8 @@
 // Textual macros: names that stand for text, with or without arguments.
 #pragma once
 
+#include "assembler/characters.h"
+
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -9,8 +11,6 @@
 #include <string_view>
 #include <unordered_map>
 #include <vector>
-
-#include "assembler/characters.h"
 
 namespace kav::assembler {
 

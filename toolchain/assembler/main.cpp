@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // kav-asm, the assembler as a command.
+#include "assembler/command_line.h"
+#include "assembler/run.h"
+#include "build_protocol/build.h"
+
 #include <filesystem>
 #include <iostream>
 #include <string>
 #include <vector>
-
-#include "assembler/command_line.h"
-#include "assembler/run.h"
-#include "build_protocol/build.h"
 
 namespace {
 

@@ -10,10 +10,10 @@ namespace kav::assembler {
 
 /// What stands at a place where a number may stand.
 enum class NumberKind {
-    kNumber,   ///< a number
-    kNone,     ///< nothing that looks like one
-    kInvalid,  ///< begins like a number but holds a digit that its radix does not have
-    kTooLarge, ///< more than 32 bits
+    kNumber,    ///< a number
+    kNone,      ///< nothing that looks like one
+    kInvalid,   ///< begins like a number but holds a digit that its radix does not have
+    kTooLarge,  ///< more than 32 bits
 };
 
 struct Number {

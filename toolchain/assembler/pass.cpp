@@ -2,16 +2,16 @@
 // One walk over the source: what is known while it lasts, and the verbs that its parts share.
 #include "assembler/pass.h"
 
-#include <algorithm>
-
 #include "assembler/lines.h"
 #include "assembler/text.h"
+
+#include <algorithm>
 
 namespace kav::assembler {
 
 namespace {
 
-constexpr std::uint64_t kMostBytes = 16U << 20;       // written in one pass, over and over
+constexpr std::uint64_t kMostBytes = 16U << 20;  // written in one pass, over and over
 constexpr std::size_t kMostFixups = 4U << 20;
 constexpr std::string_view kFirstModule = "noname";  // where local labels live before any .module
 
@@ -22,13 +22,8 @@ Pass::Pass(SourceFiles& sourceFiles, const Options& chosen, Knowledge& known, Tu
       options(chosen),
       knowledge(known),
       turn(whichTurn),
-      world{knowledge.symbols,
-            knowledge.anonymous,
-            characters,
-            '_',
-            chosen.strict,
-            whichTurn == Turn::kFirst,
-            whichTurn != Turn::kFirst},
+      world{knowledge.symbols,         knowledge.anonymous,      characters, '_', chosen.strict,
+            whichTurn == Turn::kFirst, whichTurn != Turn::kFirst},
       evaluator(world),
       diagnostics(std::max<std::size_t>(chosen.maxErrors, 1)),
       expander(macros),
@@ -37,10 +32,12 @@ Pass::Pass(SourceFiles& sourceFiles, const Options& chosen, Knowledge& known, Tu
 bool Pass::run(const std::string& mainFile) {
     knowledge.symbols.beginPass();
     knowledge.anonymous.beginPass();
-    for (const auto& [name, text] : options.defines) macros.define({name, {}, text, false, false});
+    for (const auto& [name, text] : options.defines)
+        macros.define({name, {}, text, false, false});
     where.file = where.mainFile = &mainFile;
     const FoundSource source = sources.openMain(mainFile);
-    if (!source.file) diagnostics.fatal(where, "Source file open error: " + shown(mainFile) + ", " + source.problem);
+    if (!source.file)
+        diagnostics.fatal(where, "Source file open error: " + shown(mainFile) + ", " + source.problem);
     readSource(*this, source.file);
     if (anotherPassDue_) return false;
     storeLateFields();
@@ -68,21 +65,24 @@ std::optional<std::int32_t> Pass::valueNow(std::string_view expression) {
 void Pass::defineLabel(std::string_view name, std::int32_t value, LabelKind kind) {
     SymbolTable& symbols = knowledge.symbols;
     const std::uint32_t scope = scopeOf(name);
-    if (turn == Turn::kLast) {
-        const Label* known = symbols.find(name, scope);
-        const bool moved = known != nullptr && !known->defined && kind != LabelKind::kVariable &&
-                           (!known->definedPreviously || known->previousValue != value);
-        if (moved) {
-            error("Label value misaligned: " + shownName(name) + " is " + std::to_string(value) + " and was " +
-                  std::to_string(known->previousValue) + " in the pass before; its value depends on itself");
-        }
-    }
+    if (turn == Turn::kLast) reportUnsettled(name, scope, value, kind);
     if (symbols.define(name, scope, value, kind) == Definition::kDone) return;
     const Label* known = symbols.find(name, scope);
     // Headers that are included together repeat each other's equates.
     const bool repeatsItself = !world.strict && kind == LabelKind::kEquate &&
                                known->kind == LabelKind::kEquate && known->value == value;
     if (!repeatsItself) error("Duplicate label: " + shownName(name));
+}
+
+void Pass::reportUnsettled(std::string_view name, std::uint32_t scope, std::int32_t value, LabelKind kind) {
+    if (unsettledReported_ || kind == LabelKind::kVariable) return;
+    const Label* known = knowledge.symbols.find(name, scope);
+    if (known != nullptr && (known->defined || (known->definedPreviously && known->previousValue == value))) {
+        return;
+    }
+    unsettledReported_ = true;  // the labels behind it follow from it
+    error("Label value misaligned: " + shownName(name) + " has another value in each pass, now " +
+          std::to_string(value) + ": it depends on itself");
 }
 
 void Pass::emit(std::uint8_t byte) {
@@ -98,7 +98,8 @@ void Pass::emit(std::uint8_t byte) {
 
 void Pass::emitField(FieldKind kind, std::string_view expression) {
     const std::int32_t address = location;
-    for (std::int32_t i = 0; i < sizeOf(kind); ++i) emit(0);
+    for (std::int32_t i = 0; i < sizeOf(kind); ++i)
+        emit(0);
     fillField(kind, address, expression);
 }
 
@@ -113,7 +114,8 @@ void Pass::fillField(FieldKind kind, std::int32_t address, std::string_view expr
         case Value::kForward:
             // A variable may have another value by the end: then all must be read again.
             if (knowledge.symbols.hasVariables()) anotherPassDue_ = true;
-            if (fixups_.size() >= kMostFixups) diagnostics.fatal(where, "Range of argument exceeded: too many values");
+            if (fixups_.size() >= kMostFixups)
+                diagnostics.fatal(where, "Range of argument exceeded: too many values");
             fixups_.push_back({kind, address, kept(expression), place(), where});
             break;
         case Value::kBad:
@@ -164,7 +166,8 @@ void Pass::storeLateFields() {
 void Pass::storeChecksums() {
     for (const Checksum& checksum : checksums_) {
         unsigned sum = 0;
-        for (std::int32_t i = checksum.from; i < checksum.address; ++i) sum += image.at(i);
+        for (std::int32_t i = checksum.from; i < checksum.address; ++i)
+            sum += image.at(i);
         image.put(checksum.address, static_cast<std::uint8_t>(sum & 0xFFU));
     }
 }

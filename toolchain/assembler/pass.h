@@ -2,16 +2,6 @@
 // One walk over the source: what is known while it lasts, and the verbs that its parts share.
 #pragma once
 
-#include <cstdint>
-#include <deque>
-#include <map>
-#include <memory>
-#include <optional>
-#include <set>
-#include <string>
-#include <string_view>
-#include <vector>
-
 #include "assembler/added_instructions.h"
 #include "assembler/assembler.h"
 #include "assembler/characters.h"
@@ -23,6 +13,16 @@
 #include "assembler/listing.h"
 #include "assembler/macros.h"
 #include "assembler/symbol_table.h"
+
+#include <cstdint>
+#include <deque>
+#include <map>
+#include <memory>
+#include <optional>
+#include <set>
+#include <string>
+#include <string_view>
+#include <vector>
 
 namespace kav::assembler {
 
@@ -98,8 +98,8 @@ class Pass {
     Image image;
     std::vector<ListedLine> listed;
 
-    Location where;                        ///< the line being read
-    const SourceFile* file = nullptr;      ///< the file being read
+    Location where;                    ///< the line being read
+    const SourceFile* file = nullptr;  ///< the file being read
     int includeDepth = 0;
     int macroDepth = 0;
     bool fileEnded = false;                ///< .end was read
@@ -114,10 +114,10 @@ class Pass {
     /// The files that were read, which lines and labels point into.
     std::vector<std::shared_ptr<const SourceFile>> files;
 
-    std::int32_t location = 0;             ///< the location counter
-    std::int32_t statementStart = 0;       ///< its value at the start of the statement
-    std::int32_t lineBytes = 0;            ///< bytes written by the present line
-    std::int32_t lineAddress = 0;          ///< the address of the first of them
+    std::int32_t location = 0;        ///< the location counter
+    std::int32_t statementStart = 0;  ///< its value at the start of the statement
+    std::int32_t lineBytes = 0;       ///< bytes written by the present line
+    std::int32_t lineAddress = 0;     ///< the address of the first of them
 
     /// Notes a byte for the sum of all bytes from `from` up to it.
     void emitChecksum(std::int32_t from);
@@ -132,6 +132,7 @@ class Pass {
         return {statementStart, module, knowledge.anonymous.forward.size()};
     }
     void reportBadValue(const Location& about);
+    void reportUnsettled(std::string_view name, std::uint32_t scope, std::int32_t value, LabelKind kind);
     void storeLateFields();
     void storeChecksums();
 
@@ -140,6 +141,7 @@ class Pass {
     std::deque<std::string> keptTexts_;
     std::uint64_t emitted_ = 0;
     bool anotherPassDue_ = false;
+    bool unsettledReported_ = false;
 };
 
 }  // namespace kav::assembler

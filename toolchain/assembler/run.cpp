@@ -2,13 +2,13 @@
 // One run of kav-asm: assembles, writes what was asked for, reports.
 #include "assembler/run.h"
 
-#include <algorithm>
-#include <ostream>
-
 #include "assembler/assembler.h"
 #include "program_file/program_file.h"
 #include "runtime/failure.h"
 #include "runtime/files.h"
+
+#include <algorithm>
+#include <ostream>
 
 namespace kav::assembler {
 
@@ -40,7 +40,9 @@ Options optionsOf(const CommandLine& line) {
 }
 
 /// The file's name without its folder and extension.
-std::string stemOf(const std::string& path) { return pathOf(path).stem().string(); }
+std::string stemOf(const std::string& path) {
+    return pathOf(path).stem().string();
+}
 
 std::string outputOf(const CommandLine& line) {
     if (!line.output.empty()) return line.output;
@@ -54,8 +56,8 @@ void report(const Result& result, std::ostream& output, std::ostream& errors) {
             continue;
         }
         const bool isError = message.severity == Severity::kError;
-        errors << message.file << ':' << std::max(message.line, 0) << ": " << (isError ? "error: " : "warning: ")
-               << message.text << '\n';
+        errors << message.file << ':' << std::max(message.line, 0) << ": "
+               << (isError ? "error: " : "warning: ") << message.text << '\n';
     }
 }
 

@@ -2,10 +2,10 @@
 // One run of kav-asm: assembles, writes what was asked for, reports.
 #pragma once
 
+#include "assembler/command_line.h"
+
 #include <iosfwd>
 #include <string>
-
-#include "assembler/command_line.h"
 
 namespace kav::assembler {
 

@@ -2,14 +2,14 @@
 // Where source text comes from: the disk, or memory.
 #include "assembler/source_files.h"
 
+#include "assembler/characters.h"
+#include "assembler/text.h"
+
 #include <algorithm>
 #include <cstdint>
 #include <filesystem>
 #include <fstream>
 #include <optional>
-
-#include "assembler/characters.h"
-#include "assembler/text.h"
 
 namespace kav::assembler {
 
@@ -58,7 +58,9 @@ std::optional<fs::path> resolved(fs::path folder, std::string_view name) {
     return folder;
 }
 
-FoundSource problem(std::string text) { return {nullptr, std::move(text)}; }
+FoundSource problem(std::string text) {
+    return {nullptr, std::move(text)};
+}
 
 }  // namespace
 
@@ -83,7 +85,8 @@ FoundSource DiskSourceFiles::openMain(const std::string& name) {
 FoundSource DiskSourceFiles::openIncluded(std::string_view name, const SourceFile& includer) {
     if (name.find('\0') != std::string_view::npos) return problem("the name holds a NUL character");
     std::vector<fs::path> folders{pathOf(includer.path).parent_path()};
-    for (const std::string& folder : includeFolders_) folders.push_back(pathOf(folder));
+    for (const std::string& folder : includeFolders_)
+        folders.push_back(pathOf(folder));
     for (const fs::path& folder : folders) {
         const std::optional<fs::path> path = resolved(folder, name);
         if (path) return open(path->string(), std::string(name));

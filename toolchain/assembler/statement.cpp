@@ -63,7 +63,8 @@ void callMacro(Pass& pass, const Macro& macro, std::string_view operands) {
     if (!enclosed) {
         arguments.clear();
         ListReader reader(operands);
-        for (std::string_view part; reader.next(part);) arguments.emplace_back(part);
+        for (std::string_view part; reader.next(part);)
+            arguments.emplace_back(part);
     }
     if (arguments.size() == 1 && arguments.front().empty()) arguments.clear();
     if (arguments.size() != called.parameters.size()) {
@@ -81,13 +82,16 @@ std::string hintAbout(Pass& pass, const Statement& statement) {
         return ", the macro " + shown(macro->name) + " is called with parentheses";
     }
     if (!formsOf(statement.label).empty()) {
-        return ", " + shown(statement.label) + " in column 1 is taken for a label: put a blank in front of it";
+        return ", " + shown(statement.label) +
+               " in column 1 is taken for a label: put a blank in front of it";
     }
     NearestWord nearest(statement.operation);
-    for (const std::string_view name : mnemonics()) nearest.consider(name);
-    considerDirectives(nearest, statement.operation.front() == '.');
+    considerDirectives(nearest, pass.options.strict);
+    for (const std::string_view name : mnemonics())
+        nearest.consider(name);
     for (const auto& [name, macros] : pass.macros.all()) {
-        for (const Macro& macro : macros) nearest.consider(macro.name);
+        for (const Macro& macro : macros)
+            nearest.consider(macro.name);
     }
     return didYouMean(nearest.best());
 }
@@ -99,11 +103,12 @@ void reportUnknown(Pass& pass, const Statement& statement) {
         considerDirectives(nearest, true);
         pass.error("Unrecognized directive: " + shown(statement.operation) + didYouMean(nearest.best()));
     } else if (pass.characters.isNameStart(first)) {
-        pass.error("Unrecognized instruction: " + shownName(statement.operation) + hintAbout(pass, statement));
+        pass.error("Unrecognized instruction: " + shownName(statement.operation) +
+                   hintAbout(pass, statement));
     } else {
-        pass.error("Unknown token: " +
-                   shown(std::string(statement.operation) + std::string(statement.operands)) +
-                   " (an instruction or a directive was expected)");
+        pass.error(
+            "Unknown token: " + shown(std::string(statement.operation) + std::string(statement.operands)) +
+            " (an instruction or a directive was expected)");
     }
 }
 
@@ -125,7 +130,8 @@ void assembleOperation(Pass& pass, const Statement& statement) {
     const Macro* macro = pass.macros.findForUse(statement.operation, false);
     if (macro != nullptr && macro->hasLines) return callMacro(pass, *macro, statement.operands);
     if (pass.addedInstructions.knows(statement.operation)) {
-        pass.error("Unrecognized argument: " + shown(statement.operands) + " for " + shown(statement.operation));
+        pass.error("Unrecognized argument: " + shown(statement.operands) + " for " +
+                   shown(statement.operation));
         return;
     }
     reportUnknown(pass, statement);

@@ -2,9 +2,9 @@
 // One statement: label, operation, operands.
 #pragma once
 
-#include <string_view>
-
 #include "assembler/pass.h"
+
+#include <string_view>
 
 namespace kav::assembler {
 

@@ -2,12 +2,12 @@
 // "Did you mean": the nearest known word to a misspelt one.
 #include "assembler/suggestion.h"
 
-#include <algorithm>
-#include <vector>
-
 #include "assembler/characters.h"
 #include "assembler/symbol_table.h"
 #include "assembler/text.h"
+
+#include <algorithm>
+#include <vector>
 
 namespace kav::assembler {
 
@@ -30,8 +30,10 @@ std::size_t typingMistakes(std::string_view a, std::string_view b, std::size_t l
     const std::size_t width = b.size() + 1;
     std::vector<std::size_t> cost((a.size() + 1) * width);
     const auto at = [&](std::size_t i, std::size_t j) -> std::size_t& { return cost[i * width + j]; };
-    for (std::size_t i = 0; i <= a.size(); ++i) at(i, 0) = i;
-    for (std::size_t j = 0; j <= b.size(); ++j) at(0, j) = j;
+    for (std::size_t i = 0; i <= a.size(); ++i)
+        at(i, 0) = i;
+    for (std::size_t j = 0; j <= b.size(); ++j)
+        at(0, j) = j;
     for (std::size_t i = 1; i <= a.size(); ++i) {
         for (std::size_t j = 1; j <= b.size(); ++j) {
             const std::size_t exchange = at(i - 1, j - 1) + (a[i - 1] == b[j - 1] ? 0 : 1);
@@ -44,12 +46,13 @@ std::size_t typingMistakes(std::string_view a, std::string_view b, std::size_t l
 }
 
 NearestWord::NearestWord(std::string_view misspelt)
-    : misspelt_(lowered(misspelt.substr(0, kLongestWord + 1))), bestDistance_(allowedMistakes(misspelt) + 1) {}
+    : misspelt_(lowered(misspelt.substr(0, kLongestWord + 1))),
+      bestDistance_(allowedMistakes(misspelt) + 1) {}
 
 void NearestWord::consider(std::string_view candidate) {
     if (bestDistance_ == 0 || misspelt_.size() > kLongestWord || candidate.size() > kLongestWord) return;
     const std::size_t distance = typingMistakes(misspelt_, lowered(candidate), bestDistance_ - 1);
-    if (distance >= bestDistance_) return;
+    if (distance == 0 || distance >= bestDistance_) return;  // the word itself is known not to fit
     bestDistance_ = distance;
     best_ = candidate;
 }
@@ -59,7 +62,7 @@ std::string nearestLabel(std::string_view misspelt, const SymbolTable& symbols) 
     const std::size_t count = std::min(symbols.labels().size(), kMostCandidates);
     for (std::size_t i = 0; i < count; ++i) {
         const Label& label = symbols.labels()[i];
-        if (label.scope == 0 || label.name.front() == misspelt.front()) nearest.consider(label.name);
+        if (label.defined) nearest.consider(label.name);
     }
     return nearest.best();
 }

@@ -17,7 +17,8 @@ SymbolTable::SymbolTable() : slots_(kFirstSlots) {}
 std::uint32_t SymbolTable::hashOf(std::string_view name, std::uint32_t scope) {
     std::uint32_t hash = 2166136261U ^ scope;
     // Setting bit 5 folds the case of letters; that it also folds other pairs costs a comparison at worst.
-    for (const char c : name) hash = (hash ^ (static_cast<unsigned char>(c) | 0x20U)) * 16777619U;
+    for (const char c : name)
+        hash = (hash ^ (static_cast<unsigned char>(c) | 0x20U)) * 16777619U;
     return hash ^ (hash >> 15);
 }
 
@@ -37,7 +38,8 @@ void SymbolTable::grow() {
     const std::size_t mask = slots_.size() - 1;
     for (std::size_t i = 0; i < labels_.size(); ++i) {
         std::size_t slot = labels_[i].hash & mask;
-        while (slots_[slot] != 0) slot = (slot + 1) & mask;
+        while (slots_[slot] != 0)
+            slot = (slot + 1) & mask;
         slots_[slot] = static_cast<std::uint32_t>(i + 1);
     }
 }

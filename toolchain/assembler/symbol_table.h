@@ -13,9 +13,9 @@ namespace kav::assembler {
 
 /// How a label came by its value.
 enum class LabelKind : std::uint8_t {
-    kAddress,  ///< stands in front of a statement
-    kEquate,   ///< .equ or =
-    kVariable, ///< .set; may change
+    kAddress,   ///< stands in front of a statement
+    kEquate,    ///< .equ or =
+    kVariable,  ///< .set; may change
 };
 
 /// One label. Names differ in more than case; the scope of a global label is 0, that of a local one its

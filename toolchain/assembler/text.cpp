@@ -10,7 +10,9 @@ namespace {
 
 constexpr std::size_t kLongestShown = 60;
 
-bool isOctal(char c) { return c >= '0' && c <= '7'; }
+bool isOctal(char c) {
+    return c >= '0' && c <= '7';
+}
 
 std::size_t behindApostrophe(std::string_view text, std::size_t position) {
     const bool followsName = position > 0 && kCharacters.isNamePart(text[position - 1]);
@@ -27,7 +29,8 @@ std::size_t behindApostrophe(std::string_view text, std::size_t position) {
 
 std::string lowered(std::string_view text) {
     std::string result(text);
-    for (char& c : result) c = lowered(c);
+    for (char& c : result)
+        c = lowered(c);
     return result;
 }
 
@@ -40,8 +43,10 @@ bool equalIgnoringCase(std::string_view a, std::string_view b) {
 }
 
 std::string_view trimmed(std::string_view text) {
-    while (!text.empty() && kCharacters.isBlank(text.front())) text.remove_prefix(1);
-    while (!text.empty() && kCharacters.isBlank(text.back())) text.remove_suffix(1);
+    while (!text.empty() && kCharacters.isBlank(text.front()))
+        text.remove_prefix(1);
+    while (!text.empty() && kCharacters.isBlank(text.back()))
+        text.remove_suffix(1);
     return text;
 }
 
@@ -110,7 +115,8 @@ std::string shown(std::string_view text) {
     // A cut never leaves half of a UTF-8 sequence behind.
     if (result.size() == kLongestShown) {
         std::size_t last = result.size();
-        while (last > 0 && (static_cast<unsigned char>(result[last - 1]) & 0xC0) == 0x80) --last;
+        while (last > 0 && (static_cast<unsigned char>(result[last - 1]) & 0xC0) == 0x80)
+            --last;
         if (last > 0 && static_cast<unsigned char>(result[last - 1]) >= 0xC0) result.resize(last - 1);
         result += "...";
     }
@@ -121,6 +127,8 @@ std::string shown(std::string_view text) {
     return result;
 }
 
-std::string shownName(std::string_view name) { return "(" + shown(name) + ")"; }
+std::string shownName(std::string_view name) {
+    return "(" + shown(name) + ")";
+}
 
 }  // namespace kav::assembler

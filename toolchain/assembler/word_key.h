@@ -2,12 +2,12 @@
 // Known words found by a number that they are packed into, without comparing texts.
 #pragma once
 
+#include "assembler/characters.h"
+
 #include <array>
 #include <cstddef>
 #include <cstdint>
 #include <string_view>
-
-#include "assembler/characters.h"
 
 namespace kav::assembler {
 
@@ -16,10 +16,12 @@ namespace kav::assembler {
 [[nodiscard]] constexpr std::uint64_t wordKey(std::string_view word) {
     std::uint64_t key = 0;
     if (word.size() <= 8) {
-        for (const char c : word) key = key << 8 | static_cast<unsigned char>(lowered(c));
+        for (const char c : word)
+            key = key << 8 | static_cast<unsigned char>(lowered(c));
         return key;
     }
-    for (const char c : word) key = (key ^ static_cast<unsigned char>(lowered(c))) * 0x100000001B3U;
+    for (const char c : word)
+        key = (key ^ static_cast<unsigned char>(lowered(c))) * 0x100000001B3U;
     return key | std::uint64_t{1} << 63;  // no letter of a packed word has its highest bit set
 }
 
@@ -31,7 +33,8 @@ class WordIndex {
     /// Notes that the word with this key stands at `position` in its list.
     constexpr void add(std::uint64_t key, std::size_t position) {
         std::size_t slot = slotOf(key);
-        while (keys_[slot] != 0) slot = (slot + 1) % kSlots;
+        while (keys_[slot] != 0)
+            slot = (slot + 1) % kSlots;
         keys_[slot] = key;
         positions_[slot] = static_cast<std::uint8_t>(position);
     }
