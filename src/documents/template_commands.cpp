@@ -23,6 +23,14 @@ void TemplateCommands::newasm_Click() {
     });
 }
 
+void TemplateCommands::nmf_Click() {
+    showWizard_(MirageKind::standard);
+}
+
+void TemplateCommands::mirageexitcodefile_Click() {
+    showWizard_(MirageKind::withExitCode);
+}
+
 void TemplateCommands::newFromTemplate(const char* title, Template fill) {
     const std::string answer =
         workspace_.platform().boxes.ask({kDescriptionPrompt, title, kDescriptionDefault});

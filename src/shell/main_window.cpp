@@ -25,7 +25,7 @@ Compiler::Compiler(Platform platform, ApplicationFolder applicationFolder)
       applicationFolder_(std::move(applicationFolder)),
       cd_(platform_.fileChooser),
       openSave_(*this),
-      templates_(*this),
+      templates_(*this, [this](MirageKind kind) { tools_.showMirageWizard(kind); }),
       build_(*this, [this]() -> dbgr& { return taskList(); }),
       tools_(*this, *this),
       documents_(new QMdiArea(this)) {

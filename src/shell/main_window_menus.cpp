@@ -18,6 +18,8 @@ void Compiler::addHandlers() {
     addHandler("newer", [this] { templates_.newer_Click(); });
     addHandler("newion", [this] { templates_.newion_Click(); });
     addHandler("newasm", [this] { templates_.newasm_Click(); });
+    addHandler("nmf", [this] { templates_.nmf_Click(); });
+    addHandler("mirageexitcodefile", [this] { templates_.mirageexitcodefile_Click(); });
     addHandler("load", [this] { openSave_.load_Click(); });
     addHandler("svenotas", [this] { openSave_.svenotas_Click(); });
     addHandler("stpf", [this] { openSave_.stpf_Click(); });
@@ -29,6 +31,8 @@ void Compiler::addHandlers() {
     }
     addHandler("bye", [this] { bye_Click(); });
     addHandler("vew_task", [this] { vew_task_Click(); });
+    addHandler("svbar", [this] { tools_.svbar_Click(); });
+    addHandler("strconvopen", [this] { tools_.strconvopen_Click(); });
     addHandler("sprdef", [this] { tools_.sprdef_Click(); });
     for (int index = 0; index <= 3; ++index) {
         addHandler(

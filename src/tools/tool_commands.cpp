@@ -3,7 +3,10 @@
 #include "tools/tool_commands.h"
 
 #include "shell/workspace.h"
+#include "tools/mirage_wizard_window.h"
 #include "tools/sprite_editor_window.h"
+#include "tools/stack_visualizer_window.h"
+#include "tools/string_converter_window.h"
 
 namespace kav {
 
@@ -23,8 +26,20 @@ Window& openedOnce(QPointer<Window>& window, Arguments&&... arguments) {
 
 ToolCommands::ToolCommands(Workspace& workspace, QWidget& owner) : workspace_(workspace), owner_(owner) {}
 
+void ToolCommands::svbar_Click() {
+    openedOnce(stackVisualizer_, workspace_, &owner_, stack_);
+}
+
+void ToolCommands::strconvopen_Click() {
+    openedOnce(stringConverter_, workspace_, &owner_);
+}
+
 void ToolCommands::sprdef_Click() {
     openedOnce(spriteEditor_, workspace_, &owner_, sprite_);
+}
+
+void ToolCommands::showMirageWizard(MirageKind kind) {
+    openedOnce(mirageWizard_, workspace_, &owner_, button_).selectKind(kind);
 }
 
 }  // namespace kav

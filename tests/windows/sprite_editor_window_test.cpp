@@ -59,7 +59,7 @@ TEST_F(SpriteEditor, WritesTheRightmostColumnAsTheEighthLine) {
 
 TEST_F(SpriteEditor, IgnoresClicksBesideTheGrid) {
     clickAt(0.9, 1.5);
-    clickAt(9.02, 1.5);
+    clickAt(9.03, 1.5);
     clickAt(1.5, 0.9);
     clickAt(1.5, 0.9, Qt::RightButton);
     EXPECT_EQ(copied(), kEmptySprite);

@@ -44,7 +44,10 @@ class ToolWindowTest : public MainWindow {
         QTest::mouseClick(&tool(), button, Qt::NoModifier, pointOf(x, y));
     }
 
-    static QPoint pointOf(double x, double y) { return (QPointF(x, y) * kPixelsPerCentimetre).toPoint(); }
+    /// The pixel that holds a point in centimetres.
+    static QPoint pointOf(double x, double y) {
+        return {static_cast<int>(x * kPixelsPerCentimetre), static_cast<int>(y * kPixelsPerCentimetre)};
+    }
 
     /// The colour that the window shows at a point in centimetres.
     QColor shownAt(double x, double y) { return tool().grab().toImage().pixelColor(pointOf(x, y)); }
