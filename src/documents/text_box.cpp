@@ -2,8 +2,14 @@
 // The text box of a document window: bytes in, bytes out.
 #include "documents/text_box.h"
 
+#include "platform/desktop/clipboard_text.h"
+
 #include <algorithm>
 
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QMimeData>
 #include <Qsci/qscicommand.h>
 #include <Qsci/qscicommandset.h>
 
@@ -82,13 +88,23 @@ void TextBox::setSelLength(std::size_t length) {
 
 void TextBox::replaceSelection(std::string_view text) {
     const std::size_t start = selStart();
-    SendScintilla(SCI_BEGINUNDOACTION);
-    SendScintilla(SCI_SETTARGETRANGE, static_cast<uintptr_t>(start),
-                  static_cast<intptr_t>(start + selLength()));
-    SendScintilla(SCI_REPLACETARGET, static_cast<uintptr_t>(text.size()), text.data());
-    SendScintilla(SCI_ENDUNDOACTION);
+    replaceRange(start, selLength(), text);
     setSelStart(start + text.size());
     if (changeNotice_.isActive()) sendChanged();
+}
+
+void TextBox::rewrite(std::string_view text, std::size_t start) {
+    replaceRange(0, byteLength(), text);
+    setSelStart(start);
+    if (changeNotice_.isActive()) sendChanged();
+}
+
+void TextBox::replaceRange(std::size_t start, std::size_t length, std::string_view text) {
+    SendScintilla(SCI_BEGINUNDOACTION);
+    SendScintilla(SCI_SETTARGETRANGE, static_cast<uintptr_t>(start), static_cast<intptr_t>(start + length));
+    // The text box wants an address even where there is nothing to read.
+    SendScintilla(SCI_REPLACETARGET, static_cast<uintptr_t>(text.size()), text.empty() ? "" : text.data());
+    SendScintilla(SCI_ENDUNDOACTION);
 }
 
 void TextBox::setTextFont(const std::string& name, int size) {
@@ -115,6 +131,43 @@ void TextBox::applyToAllStyles() {
 void TextBox::releaseKey(const QKeySequence& key) {
     const QKeyCombination combination = key[0];
     if (QsciCommand* command = standardCommands()->boundTo(combination.toCombined())) command->setKey(0);
+}
+
+void TextBox::cut() {
+    copy();
+    replaceSelection({});
+}
+
+void TextBox::copy() {
+    if (selLength() == 0) return;
+    QGuiApplication::clipboard()->setMimeData(mimeDataOf(selText()));
+}
+
+void TextBox::paste() {
+    const QMimeData* content = QGuiApplication::clipboard()->mimeData();
+    if (content != nullptr) replaceSelection(textOf(*content));
+}
+
+void TextBox::keyPressEvent(QKeyEvent* event) {
+    if (event->matches(QKeySequence::Cut)) {
+        cut();
+    } else if (event->matches(QKeySequence::Copy)) {
+        copy();
+    } else if (event->matches(QKeySequence::Paste)) {
+        paste();
+    } else {
+        QsciScintilla::keyPressEvent(event);
+    }
+}
+
+QByteArray TextBox::fromMimeData(const QMimeData* source, bool& rectangular) const {
+    rectangular = false;
+    const std::string text = textOf(*source);
+    return {text.data(), static_cast<qsizetype>(text.size())};
+}
+
+QMimeData* TextBox::toMimeData(const QByteArray& text, bool /*rectangular*/) const {
+    return mimeDataOf(text.toStdString());
 }
 
 void TextBox::noteModification(int modificationType) {

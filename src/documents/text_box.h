@@ -11,8 +11,8 @@
 
 namespace kav {
 
-/// A multi-line text box whose content is bytes: CR LF counts two, every byte is kept. Positions are
-/// 0-based byte offsets.
+/// A multi-line text box whose content is bytes: CR LF counts two, every byte is kept, on the clipboard too.
+/// Positions are 0-based byte offsets.
 class TextBox : public QsciScintilla {
     Q_OBJECT
 
@@ -44,6 +44,9 @@ class TextBox : public QsciScintilla {
     /// Puts the text in place of the selection, the caret behind it.
     void replaceSelection(std::string_view text);
 
+    /// Replaces the whole text in one step of undo, the caret at `start` afterwards.
+    void rewrite(std::string_view text, std::size_t start);
+
     /// Font name and size in points; a size that cannot be read is brought within what can.
     void setTextFont(const std::string& name, int size);
     void setTextItalic(bool italic);
@@ -52,11 +55,23 @@ class TextBox : public QsciScintilla {
     /// Leaves the key to the menus: the box has no command of its own for it.
     void releaseKey(const QKeySequence& key);
 
+    // The text box's own clipboard commands change line ends and NUL bytes on their way; these keep them.
+    void cut() override;
+    void copy() override;
+    void paste() override;
+
   signals:
     /// The text has changed, by a key or by the program. Sent once the change is complete.
     void changed();
 
+  protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    // Dragged text, too, travels with its bytes.
+    QByteArray fromMimeData(const QMimeData* source, bool& rectangular) const override;
+    QMimeData* toMimeData(const QByteArray& text, bool rectangular) const override;
+
   private:
+    void replaceRange(std::size_t start, std::size_t length, std::string_view text);
     void noteModification(int modificationType);
     void sendChanged();
     void applyToAllStyles();

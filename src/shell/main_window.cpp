@@ -26,6 +26,7 @@ Compiler::Compiler(Platform platform, ApplicationFolder applicationFolder)
       cd_(platform_.fileChooser),
       openSave_(*this),
       templates_(*this, [this](MirageKind kind) { tools_.showMirageWizard(kind); }),
+      edit_(*this),
       build_(*this, [this]() -> dbgr& { return taskList(); }),
       tools_(*this, *this),
       documents_(new QMdiArea(this)) {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "build/build_commands.h"
+#include "documents/edit_commands.h"
 #include "documents/open_save_commands.h"
 #include "documents/template_commands.h"
 #include "shell/preferences_file.h"
@@ -72,6 +73,7 @@ class Compiler : public QMainWindow, public Workspace {
     void buildMenus();
     void addMenuEntry(QMenu& menu, const struct MenuEntry& entry);
     void addHandlers();
+    void addEditHandlers();
     void addHandler(const std::string& name, Handler handler, int index = -1);
     void makeStatusBar();
 
@@ -94,6 +96,7 @@ class Compiler : public QMainWindow, public Workspace {
     CommonDialog cd_;
     OpenSaveCommands openSave_;
     TemplateCommands templates_;
+    EditCommands edit_;
     BuildCommands build_;
     ToolCommands tools_;
 

@@ -30,6 +30,7 @@ void Compiler::addHandlers() {
             "fil", [this, slot] { openSave_.fil_Click(recentFiles_.item(slot)); }, static_cast<int>(slot));
     }
     addHandler("bye", [this] { bye_Click(); });
+    addEditHandlers();
     addHandler("vew_task", [this] { vew_task_Click(); });
     addHandler("svbar", [this] { tools_.svbar_Click(); });
     addHandler("strconvopen", [this] { tools_.strconvopen_Click(); });
@@ -38,6 +39,15 @@ void Compiler::addHandlers() {
         addHandler(
             "arr", [this, index] { arr_Click(index); }, index);
     }
+}
+
+void Compiler::addEditHandlers() {
+    addHandler("cut", [this] { edit_.cut_Click(); });
+    addHandler("cpy", [this] { edit_.cpy_Click(); });
+    addHandler("pste", [this] { edit_.pste_Click(); });
+    addHandler("dlll", [this] { edit_.dlll_Click(); });
+    addHandler("slall", [this] { edit_.slall_Click(); });
+    addHandler("ocode", [this] { edit_.ocode_Click(); });
 }
 
 void Compiler::buildMenus() {

@@ -46,6 +46,7 @@ TEST_F(Keys, CtrlLCompilesAndCutsNoLine) {
 
 TEST_F(Keys, CtrlDDuplicatesNoLine) {
     active().txt().setBytes("one");
+    desktop_.boxes.answers = {BoxAnswer::No};
     press(Qt::Key_D, Qt::ControlModifier);
     EXPECT_EQ(active().txt().bytes(), "one");
 }

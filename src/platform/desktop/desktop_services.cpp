@@ -2,11 +2,12 @@
 // The small services that the toolkit and the standard library give alike on every system.
 #include "platform/desktop/desktop_services.h"
 
-#include "platform/desktop/text_conversion.h"
+#include "platform/desktop/clipboard_text.h"
 
 #include <QClipboard>
 #include <QDateTime>
 #include <QGuiApplication>
+#include <QMimeData>
 
 namespace kav {
 
@@ -15,17 +16,12 @@ void DesktopClipboard::clear() {
 }
 
 void DesktopClipboard::setText(const std::string& text) {
-    QString desktopText = shown(text);
-#ifndef _WIN32
-    desktopText.replace("\r\n", "\n");
-#endif
-    QGuiApplication::clipboard()->setText(desktopText);
+    QGuiApplication::clipboard()->setMimeData(mimeDataOf(text));
 }
 
 std::string DesktopClipboard::text() {
-    QString text = QGuiApplication::clipboard()->text();
-    text.replace("\r\n", "\n").replace('\r', '\n').replace("\n", "\r\n");
-    return typed(text);
+    const QMimeData* data = QGuiApplication::clipboard()->mimeData();
+    return data == nullptr ? std::string() : textOf(*data);
 }
 
 LocalTime SystemClock::now() {
