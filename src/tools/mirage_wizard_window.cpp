@@ -7,6 +7,8 @@
 #include "runtime/code_points.h"
 #include "shell/trapped.h"
 
+#include <initializer_list>
+
 #include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -65,7 +67,7 @@ Form1::Form1(Workspace& workspace, QWidget* owner, ButtonBitmap& button)
 
 void Form1::placeControls() {
     place<QLabel>("Label1", kInstructions, {0, 0, 8775, 375})->setWordWrap(true);
-    place<QLabel>("Label3", "Description", {0, 480, 855, 255});
+    auto* description = place<QLabel>("Label3", "Description", {0, 480, 855, 255});
     Text1 = place<QLineEdit>("Text1", "", {840, 480, 5295, 285});
     Check1 = place<QCheckBox>("Check1", "Use 3D effect", {6120, 480, 2655, 255});
     auto* refresh = place<QPushButton>("Command1", "Refresh", {7560, 480, 1215, 255});
@@ -75,6 +77,8 @@ void Form1::placeControls() {
     Text2 = place<QLineEdit>("Text2", "", {6840, 840, 1935, 285});
     auto* ok = place<QPushButton>("Command2", "OK", {0, 9480, 4395, 315});
     auto* cancel = place<QPushButton>("Command3", "Cancel", {4440, 9480, 4395, 315});
+    for (QWidget* control : std::initializer_list<QWidget*>{description, Check1, Option1, Option2, Label2})
+        narrowToFit(*control);
     connect(refresh, &QPushButton::clicked, this, &Form1::Command1_Click);
     connect(ok, &QPushButton::clicked, this, &Form1::Command2_Click);
     connect(cancel, &QPushButton::clicked, this, &QWidget::close);

@@ -93,6 +93,7 @@ sv::sv(Workspace& workspace, QWidget* owner, StackModel& stack)
     placeStack();
     addAbout();
     showStack();
+    registers_.front()->setFocus();
 }
 
 void sv::placeRegister(std::size_t index) {
@@ -116,6 +117,8 @@ void sv::placeStack() {
         Label1[static_cast<std::size_t>(slot - 1)] = box;
     }
     spv = place<QLabel>("spv", "<--SP", {1800, StackModel::kArrowStart, 495, 255});
+    // The arrow's place reaches beyond the window's edge.
+    narrowToFit(*spv);
 }
 
 void sv::addAbout() {

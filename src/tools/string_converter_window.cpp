@@ -6,6 +6,8 @@
 #include "shell/trapped.h"
 #include "tools/string_converter.h"
 
+#include <initializer_list>
+
 #include <QCheckBox>
 #include <QFontDatabase>
 #include <QGridLayout>

@@ -6,6 +6,8 @@
 #include "documents/text_box.h"
 #include "shell/workspace.h"
 
+#include <algorithm>
+
 namespace kav {
 
 namespace {
@@ -38,6 +40,18 @@ void ToolWindow::adopt(QWidget& control, const char* name, const TwipsRect& at) 
     control.setFont(font);
     // A press that a control has no use for is not one on the window below it.
     control.setAttribute(Qt::WA_NoMousePropagation);
+}
+
+void ToolWindow::narrowToFit(QWidget& control) const {
+    constexpr int kNarrowest = 60;
+    constexpr int kStep = 5;
+    const int room = std::min(control.width(), width() - control.x());
+    QFont font = control.font();
+    for (int percent = 100 - kStep; control.sizeHint().width() > room && percent >= kNarrowest;
+         percent -= kStep) {
+        font.setStretch(percent);
+        control.setFont(font);
+    }
 }
 
 void ToolWindow::insertAtCursor(const std::string& text) {

@@ -34,6 +34,9 @@ class ToolWindow : public QWidget {
         return control;
     }
 
+    /// Narrows the letters of a label or option until its text fits its place, whatever the desktop's font.
+    void narrowToFit(QWidget& control) const;
+
     /// Puts the text in place of the active document's selection; does nothing while no document is open.
     void insertAtCursor(const std::string& text);
 

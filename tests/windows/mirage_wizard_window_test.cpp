@@ -83,6 +83,11 @@ TEST_F(MirageWizard, HasItsControlsInTheirPlaces) {
     EXPECT_TRUE(effect().isChecked());
 }
 
+TEST_F(MirageWizard, ShowsItsTextsWhole) {
+    for (const char* name : {"Label3", "Check1", "Option1", "Option2", "Label2"})
+        EXPECT_LE(control<QWidget>(name).sizeHint().width(), control<QWidget>(name).width()) << name;
+}
+
 TEST_F(MirageWizard, SelectsTheKindThatItsMenuEntryNames) {
     EXPECT_TRUE(control<QRadioButton>("Option1").isChecked());
     EXPECT_FALSE(control<QWidget>("Text2").isVisible());

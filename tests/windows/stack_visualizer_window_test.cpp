@@ -72,6 +72,10 @@ TEST_F(StackVisualizer, HasItsControlsInTheirPlaces) {
     }
 }
 
+TEST_F(StackVisualizer, ShowsTheArrowWhole) {
+    EXPECT_LE(label("spv").x() + label("spv").sizeHint().width(), tool().width());
+}
+
 TEST_F(StackVisualizer, PushesAValueAndPopsItIntoAnotherRegister) {
     enter("af", "12AB");
     press("Command1");
