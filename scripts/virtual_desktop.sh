@@ -16,7 +16,7 @@ start_desktop() {
     export DISPLAY=":$number" QT_QPA_PLATFORM=xcb
     unset WAYLAND_DISPLAY
     openbox >"$desktop_folder/window-manager.log" 2>&1 &
-    wait_until 10 window_manager_runs || fail "no window manager could be started"
+    wait_until 30 window_manager_runs || fail "no window manager could be started"
 }
 
 window_manager_runs() { xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id'; }

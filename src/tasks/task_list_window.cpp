@@ -93,8 +93,16 @@ void dbgr::connectTree() {
     TreeView1->installEventFilter(this);
     TreeView1->setFocus();
     // A click and the arrow keys both pick a task.
-    connect(TreeView1, &QTreeWidget::currentItemChanged, this, [this](const QTreeWidgetItem* item) {
-        if (item != nullptr) TreeView1_NodeClick(selectedIndex());
+    connect(TreeView1, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* item) {
+        if (item == nullptr) return;
+        item->setSelected(true);
+        TreeView1_NodeClick(selectedIndex());
+    });
+    // The current task is always the selected one: the keyboard's first step into the list picks a task, and
+    // a click beside the tasks lets none go.
+    connect(TreeView1, &QTreeWidget::itemSelectionChanged, this, [this] {
+        QTreeWidgetItem* const item = TreeView1->currentItem();
+        if (item != nullptr && !item->isSelected()) item->setSelected(true);
     });
     connect(TreeView1, &QTreeWidget::itemClicked, this, [this] { TreeView1_NodeClick(selectedIndex()); });
     connect(TreeView1, &QTreeWidget::itemChanged, this, [this](QTreeWidgetItem* item) {
@@ -137,7 +145,7 @@ bool dbgr::eventFilter(QObject* watched, QEvent* event) {
 
 std::size_t dbgr::selectedIndex() const {
     QTreeWidgetItem* const item = TreeView1->currentItem();
-    if (item == nullptr || !item->isSelected()) return 0;
+    if (item == nullptr) return 0;
     return static_cast<std::size_t>(TreeView1->indexOfTopLevelItem(item)) + 1;
 }
 

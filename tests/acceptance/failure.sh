@@ -19,14 +19,11 @@ key alt+y
 wait_window "Task List"
 picture 2-tasks
 
-# The first task, then Goto.
-xdotool search --name '^Task List' >/dev/null
-key Home space # the tree has the keyboard: pick the first task and tick it
-key Home
-click 100 85
+# The first task, ticked and selected, then the Goto button.
+key space
+click 100 67
 picture 3-selected
-goto_x=$(($(xdotool getactivewindow getwindowgeometry --shell | sed -n 's/^WIDTH=//p') - 60))
-click "$goto_x" 80
+click 557 70
 wait_window "KAV Compiler"
 sleep 0.3
 picture 4-gone-to

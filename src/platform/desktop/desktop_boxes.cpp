@@ -2,13 +2,13 @@
 // Message and input boxes of the toolkit.
 #include "platform/desktop/desktop_boxes.h"
 
+#include "platform/desktop/dialog_owner.h"
 #include "platform/desktop/text_conversion.h"
 
 #include <array>
 #include <utility>
 #include <vector>
 
-#include <QApplication>
 #include <QInputDialog>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -67,7 +67,7 @@ QMessageBox::Icon iconOf(BoxIcon icon) {
 }  // namespace
 
 BoxAnswer DesktopBoxes::show(const MessageBox& box) {
-    QMessageBox window(QApplication::activeWindow());
+    QMessageBox window(dialogOwner());
     window.setObjectName("MessageBox");
     window.setWindowTitle(shown(box.title));
     window.setTextFormat(Qt::PlainText);
@@ -90,7 +90,7 @@ BoxAnswer DesktopBoxes::show(const MessageBox& box) {
 }
 
 std::string DesktopBoxes::ask(const InputBox& box) {
-    QInputDialog window(QApplication::activeWindow());
+    QInputDialog window(dialogOwner());
     window.setObjectName("InputBox");
     window.setInputMode(QInputDialog::TextInput);
     window.setWindowTitle(shown(box.title));

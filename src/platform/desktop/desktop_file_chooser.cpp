@@ -2,10 +2,10 @@
 // The toolkit's file dialog.
 #include "platform/desktop/desktop_file_chooser.h"
 
+#include "platform/desktop/dialog_owner.h"
 #include "platform/desktop/text_conversion.h"
 #include "platform/dialog_filter.h"
 
-#include <QApplication>
 #include <QFileDialog>
 #include <QFileInfo>
 
@@ -49,7 +49,7 @@ void presetName(QFileDialog& dialog, const FileQuestion& question) {
 }  // namespace
 
 std::optional<std::string> DesktopFileChooser::choose(const FileQuestion& question) {
-    QFileDialog dialog(QApplication::activeWindow());
+    QFileDialog dialog(dialogOwner());
     dialog.setObjectName("CommonDialog");
     dialog.setOption(QFileDialog::DontUseNativeDialog);
     dialog.setWindowTitle(shown(question.title));

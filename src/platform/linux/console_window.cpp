@@ -13,7 +13,7 @@ ConsoleWindow::ConsoleWindow(const QString& title) {
     setReadOnly(true);
     setUndoRedoEnabled(false);
     setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-    setStyleSheet("background: black; color: lightgray");
+    setStyleSheet("QPlainTextEdit { background: black; color: lightgray }");
     resize(640, 320);
 }
 
