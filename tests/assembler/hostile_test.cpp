@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Sources that mean harm, or are broken beyond sense, end soon and with a clear error.
-#include <gtest/gtest.h>
+#include "assembler/assembler.h"
+#include "support/temporary_folder.h"
 
 #include <chrono>
 #include <filesystem>
 #include <fstream>
-
-#include "assembler/assembler.h"
-#include "support/temporary_folder.h"
+#include <gtest/gtest.h>
 
 namespace kav::assembler {
 
@@ -22,7 +21,8 @@ constexpr auto kPatience = std::chrono::seconds(1);
 std::string repeated(std::string_view text, std::size_t count) {
     std::string result;
     result.reserve(text.size() * count);
-    for (std::size_t i = 0; i < count; ++i) result += text;
+    for (std::size_t i = 0; i < count; ++i)
+        result += text;
     return result;
 }
 
@@ -52,12 +52,15 @@ std::string firstError(const std::string& source) {
     return result.messages.empty() ? "" : result.messages.front().text;
 }
 
-bool mentions(const std::string& text, std::string_view part) { return text.find(part) != std::string::npos; }
+bool mentions(const std::string& text, std::string_view part) {
+    return text.find(part) != std::string::npos;
+}
 
 }  // namespace
 
 TEST(HostileSource, MacrosThatCallEachOtherEnd) {
-    EXPECT_TRUE(mentions(firstError("#define a1 b1 b1\n#define b1 a1 a1\n a1\n"), "Macro expansion too long"));
+    EXPECT_TRUE(
+        mentions(firstError("#define a1 b1 b1\n#define b1 a1 a1\n a1\n"), "Macro expansion too long"));
 }
 
 TEST(HostileSource, MacrosThatGrowWithoutTextEnd) {
@@ -70,7 +73,8 @@ TEST(HostileSource, MacrosThatGrowWithoutTextEnd) {
 }
 
 TEST(HostileSource, EndlessMacrosOnManyLinesEnd) {
-    EXPECT_TRUE(mentions(firstError("#define a1 a1 a1\n" + repeated(" a1\n", 10000)), "Macro expansion too long"));
+    EXPECT_TRUE(
+        mentions(firstError("#define a1 a1 a1\n" + repeated(" a1\n", 10000)), "Macro expansion too long"));
 }
 
 TEST(HostileSource, MacrosOfLinesThatMultiplyEnd) {
@@ -95,7 +99,8 @@ TEST(HostileSource, IncludesThatMultiplyEnd) {
     MemorySourceFiles files;
     files.add("main.z80", repeated("#include \"0.inc\"\n", 10));
     for (int i = 0; i < 20; ++i) {
-        files.add(std::to_string(i) + ".inc", repeated("#include \"" + std::to_string(i + 1) + ".inc\"\n", 10));
+        files.add(std::to_string(i) + ".inc",
+                  repeated("#include \"" + std::to_string(i + 1) + ".inc\"\n", 10));
     }
     files.add("20.inc", " nop\n");
     EXPECT_FALSE(assembled(files).ok);
@@ -136,7 +141,8 @@ TEST(HostileSource, ManyStatementsWithUnclosedPartsEnd) {
 
 TEST(HostileSource, EveryByteMayStandAnywhere) {
     std::string bytes;
-    for (int byte = 0; byte < 256; ++byte) bytes += static_cast<char>(byte);
+    for (int byte = 0; byte < 256; ++byte)
+        bytes += static_cast<char>(byte);
     EXPECT_FALSE(assembled(bytes).ok);
     EXPECT_FALSE(assembled(std::string(" ld a,\0\n", 8)).ok);
     EXPECT_FALSE(assembled(std::string("\0\0\0\0", 4)).ok);
@@ -159,20 +165,23 @@ TEST(HostileSource, AtMostAHundredErrorsAreReported) {
 
 TEST(HostileSource, MisspeltLabelsInAHugeProgramAreReportedSoon) {
     std::string source;
-    for (int i = 0; i < 200000; ++i) source += "a_rather_long_label_" + std::to_string(i) + ":\n";
+    for (int i = 0; i < 200000; ++i)
+        source += "a_rather_long_label_" + std::to_string(i) + ":\n";
     EXPECT_FALSE(assembled(source + repeated(" call a_rather_long_lable_77\n", 200)).ok);
 }
 
 TEST(HostileSource, LabelsThatNeverSettleAreAnError) {
-    EXPECT_TRUE(mentions(firstError("here: .block 1-there\nthere:\n .block there&1\n .dw later\nlater .equ there+last\nlast "
-                                    ".equ later+1\n"),
-                         "Label value misaligned"));
+    EXPECT_TRUE(mentions(
+        firstError("here: .block 1-there\nthere:\n .block there&1\n .dw later\nlater .equ there+last\nlast "
+                   ".equ later+1\n"),
+        "Label value misaligned"));
 }
 
 TEST(HostileSource, AFolderOrAMissingFileIsNoSource) {
     const test::TemporaryFolder folder;
     std::filesystem::create_directory(folder.file("folder.inc"));
-    std::ofstream(folder.file("a.z80")) << "#include \"folder.inc\"\n#include \"missing.inc\"\n#include \"/dev/zero\"\n";
+    std::ofstream(folder.file("a.z80"))
+        << "#include \"folder.inc\"\n#include \"missing.inc\"\n#include \"/dev/zero\"\n";
     DiskSourceFiles files({});
     const Result result = assemble(files, folder.file("a.z80"));
     ASSERT_EQ(result.messages.size(), 3U);

@@ -25,19 +25,22 @@ Texts joined(Texts a, const Texts& b) {
 
 Texts enclosed(const Texts& texts) {
     Texts result;
-    for (const std::string& text : texts) result.push_back("(" + text + ")");
+    for (const std::string& text : texts)
+        result.push_back("(" + text + ")");
     return result;
 }
 
 /// Adds "mnemonic operand" for each operand.
 void add(Texts& forms, const std::string& mnemonic, const Texts& operands) {
-    for (const std::string& operand : operands) forms.push_back(mnemonic + " " + operand);
+    for (const std::string& operand : operands)
+        forms.push_back(mnemonic + " " + operand);
 }
 
 /// Adds "mnemonic first,second" for each pair.
 void add(Texts& forms, const std::string& mnemonic, const Texts& first, const Texts& second) {
     for (const std::string& a : first) {
-        for (const std::string& b : second) forms.push_back(mnemonic + " " + a + "," + b);
+        for (const std::string& b : second)
+            forms.push_back(mnemonic + " " + a + "," + b);
     }
 }
 
@@ -58,21 +61,26 @@ void addLoads(Texts& forms) {
 
 void addArithmetic(Texts& forms) {
     const Texts sources = joined(joined(kRegisters, {"(hl)"}), joined(kIndexed, kBytes));
-    for (const char* mnemonic : {"add", "adc", "sbc"}) add(forms, mnemonic, {"a"}, sources);
-    for (const char* mnemonic : {"sub", "and", "xor", "or", "cp"}) add(forms, mnemonic, sources);
+    for (const char* mnemonic : {"add", "adc", "sbc"})
+        add(forms, mnemonic, {"a"}, sources);
+    for (const char* mnemonic : {"sub", "and", "xor", "or", "cp"})
+        add(forms, mnemonic, sources);
     const Texts changed = joined(joined(kRegisters, {"(hl)"}), kIndexed);
     const Texts pairs{"bc", "de", "hl", "sp", "ix", "iy"};
     add(forms, "inc", joined(changed, pairs));
     add(forms, "dec", joined(changed, pairs));
-    for (const char* mnemonic : {"add", "adc", "sbc"}) add(forms, mnemonic, {"hl"}, {"bc", "de", "hl", "sp"});
+    for (const char* mnemonic : {"add", "adc", "sbc"})
+        add(forms, mnemonic, {"hl"}, {"bc", "de", "hl", "sp"});
     add(forms, "add", {"ix"}, {"bc", "de", "ix", "sp"});
     add(forms, "add", {"iy"}, {"bc", "de", "iy", "sp"});
 }
 
 void addBits(Texts& forms) {
     const Texts operands = joined(joined(kRegisters, {"(hl)"}), kIndexed);
-    for (const std::string& shift : kShifts) add(forms, shift, operands);
-    for (const char* mnemonic : {"bit", "res", "set"}) add(forms, mnemonic, kBits, operands);
+    for (const std::string& shift : kShifts)
+        add(forms, shift, operands);
+    for (const char* mnemonic : {"bit", "res", "set"})
+        add(forms, mnemonic, kBits, operands);
 }
 
 void addJumps(Texts& forms) {
@@ -95,10 +103,10 @@ void addTheRest(Texts& forms) {
     add(forms, "out", enclosed({"0", "127", "128", "255"}), {"a"});
     add(forms, "in", kRegisters, {"(c)"});
     add(forms, "out", {"(c)"}, kRegisters);
-    for (const char* form : {"nop",  "halt", "di",  "ei",   "exx",  "daa",  "cpl",  "neg",  "ccf",  "scf",
-                             "rlca", "rla",  "rrca", "rra", "rld",  "rrd",  "ldi",  "ldir", "ldd",  "lddr",
-                             "cpi",  "cpir", "cpd", "cpdr", "ini",  "inir", "ind",  "indr", "outi", "otir",
-                             "outd", "otdr", "ret", "reti", "retn"}) {
+    for (const char* form :
+         {"nop",  "halt", "di",  "ei",   "exx",  "daa",  "cpl",  "neg",  "ccf", "scf",  "rlca", "rla",
+          "rrca", "rra",  "rld", "rrd",  "ldi",  "ldir", "ldd",  "lddr", "cpi", "cpir", "cpd",  "cpdr",
+          "ini",  "inir", "ind", "indr", "outi", "otir", "outd", "otdr", "ret", "reti", "retn"}) {
         forms.emplace_back(form);
     }
 }
@@ -121,15 +129,18 @@ std::vector<std::string> undocumentedForms() {
     for (const Texts& halves : {Texts{"ixh", "ixl"}, Texts{"iyh", "iyl"}}) {
         add(forms, "ld", halves, joined(joined(others, halves), kBytes));
         add(forms, "ld", others, halves);
-        for (const char* mnemonic : {"add", "adc", "sbc"}) add(forms, mnemonic, {"a"}, halves);
+        for (const char* mnemonic : {"add", "adc", "sbc"})
+            add(forms, mnemonic, {"a"}, halves);
         for (const char* mnemonic : {"sub", "and", "xor", "or", "cp", "inc", "dec"}) {
             add(forms, mnemonic, halves);
         }
     }
     add(forms, "sll", joined(joined(kRegisters, {"(hl)"}), kIndexed));
-    for (const std::string& shift : joined(kShifts, {"sll"})) add(forms, shift, kIndexed, kRegisters);
+    for (const std::string& shift : joined(kShifts, {"sll"}))
+        add(forms, shift, kIndexed, kRegisters);
     for (const char* mnemonic : {"res", "set"}) {
-        for (const std::string& bit : kBits) add(forms, mnemonic, {bit + ",(ix-1)", bit + ",(iy+1)"}, kRegisters);
+        for (const std::string& bit : kBits)
+            add(forms, mnemonic, {bit + ",(ix-1)", bit + ",(iy+1)"}, kRegisters);
     }
     add(forms, "in", {"f,(c)"});
     add(forms, "out", {"(c),0"});

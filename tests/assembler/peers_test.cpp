@@ -1,18 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Every instruction form against other assemblers, and back through a disassembler. They are witnesses: a
 // form that one does not know is left to the others, and where one is not installed its test is skipped.
-#include <gtest/gtest.h>
+#include "assembler/assembler.h"
+#include "assembler/instruction_forms.h"
+#include "support/temporary_folder.h"
 
 #include <algorithm>
 #include <cstdlib>
 #include <fstream>
+#include <gtest/gtest.h>
 #include <iterator>
 #include <set>
 #include <sstream>
-
-#include "assembler/assembler.h"
-#include "assembler/instruction_forms.h"
-#include "support/temporary_folder.h"
 
 namespace kav::assembler {
 
@@ -25,8 +24,8 @@ using Bytes = std::vector<std::uint8_t>;
 struct Peer {
     std::string program;
     std::string command;
-    std::string sll;               ///< its name for the undocumented shift
-    std::string errorLineMark;     ///< stands in front of the line number of an error
+    std::string sll;            ///< its name for the undocumented shift
+    std::string errorLineMark;  ///< stands in front of the line number of an error
 };
 
 const Peer kZ80asm{"z80asm", "z80asm IN -o OUT", "sli", "in.z80:"};
@@ -41,7 +40,9 @@ std::string contentOf(const std::string& path) {
     return {std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
 }
 
-Bytes bytesOf(const std::string& content) { return {content.begin(), content.end()}; }
+Bytes bytesOf(const std::string& content) {
+    return {content.begin(), content.end()};
+}
 
 bool installed(const std::string& program) {
     return std::system(("command -v " + program + " >/dev/null 2>&1").c_str()) == 0;
@@ -49,7 +50,8 @@ bool installed(const std::string& program) {
 
 std::string sourceOf(const Texts& lines) {
     std::string text;
-    for (const std::string& line : lines) text += "\t" + line + "\n";
+    for (const std::string& line : lines)
+        text += "\t" + line + "\n";
     return text;
 }
 
@@ -158,8 +160,12 @@ std::string inOurWords(const std::string& disassembly) {
 
 }  // namespace
 
-TEST(DocumentedInstructions, HaveTheBytesThatZ80asmGives) { compare(kZ80asm, test::documentedForms(), 0); }
-TEST(DocumentedInstructions, HaveTheBytesThatPasmoGives) { compare(kPasmo, test::documentedForms(), 0); }
+TEST(DocumentedInstructions, HaveTheBytesThatZ80asmGives) {
+    compare(kZ80asm, test::documentedForms(), 0);
+}
+TEST(DocumentedInstructions, HaveTheBytesThatPasmoGives) {
+    compare(kPasmo, test::documentedForms(), 0);
+}
 TEST(DocumentedInstructions, HaveTheBytesThatTheGnuAssemblerGives) {
     compare(kGnu, test::documentedForms(), 0);
 }
@@ -185,13 +191,14 @@ TEST(Instructions, AssembleToTheSameBytesWhenDisassembled) {
     const Bytes bytes = ourBytes(lines);
     const test::TemporaryFolder folder;
     std::ofstream(folder.file("code"), std::ios::binary) << std::string(bytes.begin(), bytes.end());
-    const std::string command =
-        "cd '" + folder.path().string() + "' && z80dasm -u -g 0 code >back.z80 2>log";
+    const std::string command = "cd '" + folder.path().string() + "' && z80dasm -u -g 0 code >back.z80 2>log";
     ASSERT_EQ(std::system(command.c_str()), 0) << contentOf(folder.file("log"));
     MemorySourceFiles files;
-    files.add("back.z80", "#define defb .db\n#define sli sll\n" + inOurWords(contentOf(folder.file("back.z80"))));
+    files.add("back.z80",
+              "#define defb .db\n#define sli sll\n" + inOurWords(contentOf(folder.file("back.z80"))));
     const Result result = assemble(files, "back.z80");
-    for (const Message& message : result.messages) ADD_FAILURE() << message.line << ": " << message.text;
+    for (const Message& message : result.messages)
+        ADD_FAILURE() << message.line << ": " << message.text;
     EXPECT_EQ(result.bytes, bytes);
 }
 
