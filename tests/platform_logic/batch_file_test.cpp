@@ -3,26 +3,18 @@
 
 #include "build/build_files.h"
 #include "platform/dos_path.h"
-#include "runtime/failure.h"
+#include "support/failure_number.h"
 #include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>
 
 namespace kav {
 
+using test::failureNumberOf;
+
 namespace fs = std::filesystem;
 
 namespace {
-
-template <typename Action>
-int failureNumberOf(Action action) {
-    try {
-        action();
-    } catch (const Failure& failure) {
-        return failure.number();
-    }
-    return 0;
-}
 
 class ShortPath : public testing::Test {
   protected:

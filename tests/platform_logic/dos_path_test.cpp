@@ -1,25 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/dos_path.h"
 
-#include "runtime/failure.h"
+#include "support/failure_number.h"
 
 #include <gtest/gtest.h>
 
 namespace kav {
 
-namespace {
+using test::failureNumberOf;
 
-template <typename Action>
-int failureNumberOf(Action action) {
-    try {
-        action();
-    } catch (const Failure& failure) {
-        return failure.number();
-    }
-    return 0;
-}
-
-}  // namespace
+namespace {}  // namespace
 
 TEST(DosForm, PutsTheFileTreeOnDriveZ) {
     EXPECT_EQ(dosForm("/home/me/KAV"), "Z:\\home\\me\\KAV");

@@ -1,26 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "runtime/files.h"
 
-#include "runtime/failure.h"
+#include "support/failure_number.h"
 #include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>
 
 namespace kav {
 
+using test::failureNumberOf;
+
 namespace fs = std::filesystem;
 
 namespace {
-
-template <typename Action>
-int failureNumberOf(Action action) {
-    try {
-        action();
-    } catch (const Failure& failure) {
-        return failure.number();
-    }
-    return 0;
-}
 
 class Files : public testing::Test {
   protected:
