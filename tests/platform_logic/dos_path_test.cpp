@@ -9,8 +9,6 @@ namespace kav {
 
 using test::failureNumberOf;
 
-namespace {}  // namespace
-
 TEST(DosForm, PutsTheFileTreeOnDriveZ) {
     EXPECT_EQ(dosForm("/home/me/KAV"), "Z:\\home\\me\\KAV");
     EXPECT_EQ(dosForm("/"), "Z:\\");
