@@ -2,8 +2,8 @@
 // Searching a text and replacing every match in it.
 #include "documents/find_replace.h"
 
-#include "runtime/code_points.h"
 #include "documents/match_scanner.h"
+#include "runtime/code_points.h"
 #include "runtime/failure.h"
 #include "runtime/lines.h"
 #include "runtime/number_text.h"

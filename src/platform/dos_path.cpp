@@ -2,8 +2,8 @@
 // Paths in DOS form, as the build script holds them.
 #include "platform/dos_path.h"
 
-#include "runtime/failure.h"
 #include "runtime/code_points.h"
+#include "runtime/failure.h"
 
 #include <algorithm>
 

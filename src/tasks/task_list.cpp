@@ -2,8 +2,8 @@
 // The task list: notes tied to a document and a line.
 #include "tasks/task_list.h"
 
-#include "runtime/failure.h"
 #include "runtime/code_points.h"
+#include "runtime/failure.h"
 #include "runtime/lines.h"
 #include "runtime/number_text.h"
 

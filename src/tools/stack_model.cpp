@@ -2,8 +2,8 @@
 // The stack visualizer's model.
 #include "tools/stack_model.h"
 
-#include "runtime/failure.h"
 #include "runtime/code_points.h"
+#include "runtime/failure.h"
 
 #include <utility>
 

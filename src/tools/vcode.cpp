@@ -2,8 +2,8 @@
 // VCode: a scan over the characters with a table of pairs at hand.
 #include "tools/vcode.h"
 
-#include "runtime/failure.h"
 #include "runtime/code_points.h"
+#include "runtime/failure.h"
 #include "runtime/lines.h"
 
 #include <cstdint>

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "windows/main_window_fixture.h"
-
 #include "runtime/failure.h"
+#include "windows/main_window_fixture.h"
 namespace kav::test {
 
 class Reporter : public MainWindow {
