@@ -32,8 +32,11 @@ saving_or_errors() { active_title_is "Save Compiled" || active_title_is "Errors 
 wait_until 30 saving_or_errors || fail "the build gave no verdict"
 if active_title_is "Errors in code"; then
     picture 2-errors
-    key Escape
-    echo "kav: '$source_file' has errors: see $application/temp.lst and $pictures/2-errors.png" >&2
+    key alt+n # No: the errors are told here instead
+    wait_window "KAV Compiler"
+    end_program
+    grep '^temp\.z80 line ' "$application/temp.lst" | tr -d '\r' >&2
+    echo "kav: '$source_file' has errors; the screenshot is $pictures/2-errors.png" >&2
     exit 1
 fi
 sleep 0.3
@@ -44,5 +47,6 @@ key Return
 wait_until 10 test -s "$saved" || fail "no program file was saved"
 wait_window "KAV Compiler"
 picture 3-success
+end_program # in order, so that the next start is no first run
 echo "kav: the program file is $saved"
 echo "kav: the screenshot is $pictures/3-success.png"

@@ -60,6 +60,16 @@ type_text() { xdotool type --clearmodifiers --delay 15 "$1"; }
 # click X Y: the left button at a place in the window that has the keyboard.
 click() { xdotool mousemove --window "$(xdotool getactivewindow)" "$1" "$2" click 1; }
 
+# end_program: closes the window that has the keyboard and waits for the end of $program.
+end_program() {
+    key alt+F4
+    wait_until 10 program_has_ended || fail "the program did not end"
+    wait "$program" || fail "the program ended with exit code $?"
+    program=
+}
+
+program_has_ended() { ! kill -0 "$program" 2>/dev/null; }
+
 # picture NAME: a screenshot into the folder $pictures.
 picture() {
     mkdir -p "$pictures"

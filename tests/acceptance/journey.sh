@@ -42,14 +42,4 @@ save_program() {
     wait_window "KAV Compiler"
 }
 
-# end_program: closes the main window by its menu's Exit and waits for the end.
-end_program() {
-    key alt+F4
-    wait_until 10 program_has_ended || fail "the program did not end"
-    wait "$program" || fail "the program ended with exit code $?"
-    program=
-}
-
-program_has_ended() { ! kill -0 "$program" 2>/dev/null; }
-
 preference_line() { sed -n "${1}p" "$application/prefs.ini" | tr -d '\r'; }
