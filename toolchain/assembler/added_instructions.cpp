@@ -13,6 +13,7 @@ namespace kav::assembler {
 namespace {
 
 constexpr int kLargestSize = 8;
+constexpr std::size_t kMostDigits = 16;  // of an opcode of that size
 
 std::string_view nextWord(std::string_view& text) {
     text = trimmed(text);
@@ -27,7 +28,7 @@ std::string_view nextWord(std::string_view& text) {
 }
 
 std::optional<std::vector<std::uint8_t>> opcodeBytes(std::string_view digits) {
-    if (digits.empty() || digits.size() % 2 != 0 || digits.size() > 2 * kLargestSize) return std::nullopt;
+    if (digits.empty() || digits.size() % 2 != 0 || digits.size() > kMostDigits) return std::nullopt;
     std::vector<std::uint8_t> bytes;
     // The byte that comes first in memory stands last, as in a number.
     for (std::size_t i = digits.size(); i > 0; i -= 2) {

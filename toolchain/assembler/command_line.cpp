@@ -36,15 +36,15 @@ constexpr std::string_view kHelp =
     "Exit codes: 0 success, 1 errors in the source, 2 usage, 3 files.\n";
 
 struct OptionName {
-    char letter;
     std::string_view word;
+    char letter;
     bool takesValue;
 };
 
 constexpr OptionName kOptions[] = {
-    {'o', "output", true},  {'t', "target", true},  {'D', "define", true},
-    {'I', "include", true}, {'l', "listing", true}, {'s', "symbols", true},
-    {'S', "strict", false}, {'h', "help", false},   {'V', "version", false},
+    {"output", 'o', true},  {"target", 't', true},  {"define", 'D', true},
+    {"include", 'I', true}, {"listing", 'l', true}, {"symbols", 's', true},
+    {"strict", 'S', false}, {"help", 'h', false},   {"version", 'V', false},
 };
 
 struct Given {
