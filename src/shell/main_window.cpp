@@ -4,19 +4,27 @@
 
 #include "documents/caption.h"
 #include "documents/document_window.h"
+#include "documents/find_window.h"
+#include "documents/quick_list_window.h"
 #include "documents/text_box.h"
 #include "platform/desktop/text_conversion.h"
+#include "runtime/failure.h"
 #include "runtime/files.h"
+#include "settings/settings_window.h"
 #include "shell/document_arrangement.h"
 #include "shell/failure_report.h"
 #include "shell/menu_table.h"
+#include "shell/survey_clock.h"
+#include "shell/toolbar_strip.h"
 #include "tasks/task_list_window.h"
 
 #include <QApplication>
 #include <QCloseEvent>
 #include <QLabel>
 #include <QMdiArea>
+#include <QMenu>
 #include <QStatusBar>
+#include <QToolBar>
 
 namespace kav {
 
@@ -27,6 +35,8 @@ Compiler::Compiler(Platform platform, ApplicationFolder applicationFolder)
       openSave_(*this),
       templates_(*this, [this](MirageKind kind) { tools_.showMirageWizard(kind); }),
       edit_(*this),
+      help_(*this),
+      customTools_(*this),
       build_(*this, [this]() -> dbgr& { return taskList(); }),
       tools_(*this, *this),
       documents_(new QMdiArea(this)) {
@@ -40,9 +50,11 @@ Compiler::Compiler(Platform platform, ApplicationFolder applicationFolder)
     addHandlers();
     buildMenus();
     makeStatusBar();
+    makeToolbarStrip();
+    sur.setParent(this);
     sur.setObjectName("sur");
     sur.setInterval(1000);
-    connect(&sur, &QTimer::timeout, this, [this] { ++values_.usageSeconds; });
+    connect(&sur, &QTimer::timeout, this, [this] { sur_Timer(); });
 }
 
 Compiler::~Compiler() {
@@ -58,6 +70,17 @@ void Compiler::makeStatusBar() {
     // A long text must not widen the window.
     firstPanel_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     statusBar()->addWidget(firstPanel_, 1);
+}
+
+void Compiler::makeToolbarStrip() {
+    auto* bar = addToolBar("Picture1");
+    bar->setObjectName("toolbar");
+    bar->setMovable(false);
+    bar->setContextMenuPolicy(Qt::PreventContextMenu);
+    auto* Picture1 = new ToolbarStrip(*this, bar);
+    bar->addWidget(Picture1);
+    connect(Picture1, &ToolbarStrip::pressed, this,
+            [this](const std::string& command) { menuItem(command)->trigger(); });
 }
 
 Doc* Compiler::activeDocument() {
@@ -122,6 +145,14 @@ dbgr& Compiler::taskList() {
     return *taskList_;
 }
 
+filez& Compiler::quickList() {
+    if (quickList_ == nullptr) {
+        quickList_ = new filez(*this, *menuItem("qfm")->menu(), this);
+        connect(quickList_, &filez::visibilityChanged, menuItem("vew_list"), &QAction::setChecked);
+    }
+    return *quickList_;
+}
+
 void Compiler::bye_Click() {
     close();
 }
@@ -136,6 +167,42 @@ void Compiler::vew_task_Click() {
         taskList().hide();
     } else {
         taskList().showList();
+    }
+}
+
+void Compiler::vew_list_Click() {
+    if (quickList().isVisible()) {
+        quickList().hide();
+    } else {
+        quickList().showList();
+    }
+}
+
+void Compiler::fnd_Click() {
+    if (values_.openDocuments == 0) return;
+    if (findWindow_ == nullptr) findWindow_ = new class find(*this, this);
+    findWindow_->show();
+    findWindow_->raise();
+    findWindow_->activateWindow();
+}
+
+void Compiler::set_Click() {
+    settings dialog(applicationFolder_.file("prefs.ini"), this);
+    dialog.exec();
+}
+
+void Compiler::sur_Timer() {
+    SurveyClock clock(values_.usageSeconds, preferences_.surveyAsked);
+    const bool ask = clock.tick(build_.comptime().isActive());
+    values_.usageSeconds = clock.usageSeconds();
+    preferences_.surveyAsked = clock.surveyAsked();
+    sur.setProperty("Tag", shown(clock.usageText()));
+    if (!ask) return;
+    try {
+        help_.offerSurvey();
+    } catch (const Failure&) {
+        // A survey that cannot be opened is not worth a word; the menu still offers it.
+        return;
     }
 }
 

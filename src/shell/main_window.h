@@ -6,9 +6,11 @@
 #include "documents/edit_commands.h"
 #include "documents/open_save_commands.h"
 #include "documents/template_commands.h"
+#include "shell/help_commands.h"
 #include "shell/preferences_file.h"
 #include "shell/recent_files.h"
 #include "shell/workspace.h"
+#include "tools/custom_tool_commands.h"
 #include "tools/tool_commands.h"
 
 #include <functional>
@@ -18,6 +20,7 @@
 #include <utility>
 
 #include <QMainWindow>
+#include <QPointer>
 
 class QAction;
 class QLabel;
@@ -27,6 +30,8 @@ class QMenu;
 namespace kav {
 
 class dbgr;
+class filez;
+class find;
 
 /// The frame that holds the document windows: menu, status bar, start-up and shutdown, and the operations
 /// that every part of the program calls. Commands live with their subjects; the menu names them.
@@ -57,6 +62,9 @@ class Compiler : public QMainWindow, public Workspace {
     /// The task list, made when it is first needed.
     dbgr& taskList();
 
+    /// The QuickList, made when it is first needed.
+    filez& quickList();
+
     /// The menu entry of that name, and of that index where several share a name.
     [[nodiscard]] QAction* menuItem(const std::string& name, int index = -1) const;
 
@@ -69,13 +77,20 @@ class Compiler : public QMainWindow, public Workspace {
     void bye_Click();
     void arr_Click(int arrangement);
     void vew_task_Click();
+    void vew_list_Click();
+    void fnd_Click();
+    void set_Click();
+    void sur_Timer();
 
     void buildMenus();
     void addMenuEntry(QMenu& menu, const struct MenuEntry& entry);
     void addHandlers();
     void addEditHandlers();
+    void addToolHandlers();
+    void addHelpHandlers();
     void addHandler(const std::string& name, Handler handler, int index = -1);
     void makeStatusBar();
+    void makeToolbarStrip();
 
     void readPreferences();
     void prepareFirstRun();
@@ -97,6 +112,8 @@ class Compiler : public QMainWindow, public Workspace {
     OpenSaveCommands openSave_;
     TemplateCommands templates_;
     EditCommands edit_;
+    HelpCommands help_;
+    CustomToolCommands customTools_;
     BuildCommands build_;
     ToolCommands tools_;
 
@@ -106,6 +123,8 @@ class Compiler : public QMainWindow, public Workspace {
     std::map<std::pair<std::string, int>, QAction*> menuItems_;
     std::map<std::pair<std::string, int>, Handler> handlers_;
     dbgr* taskList_ = nullptr;
+    filez* quickList_ = nullptr;
+    QPointer<class find> findWindow_;
 };
 
 }  // namespace kav

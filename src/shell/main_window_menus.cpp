@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The main window's menus: which handler each entry runs, and the tree that the table describes.
+#include "documents/quick_list_window.h"
 #include "platform/desktop/text_conversion.h"
 #include "shell/main_window.h"
 #include "shell/menu_table.h"
@@ -31,7 +32,14 @@ void Compiler::addHandlers() {
     }
     addHandler("bye", [this] { bye_Click(); });
     addEditHandlers();
+    addToolHandlers();
+    addHelpHandlers();
     addHandler("vew_task", [this] { vew_task_Click(); });
+    addHandler("vew_list", [this] { vew_list_Click(); });
+    addHandler("openquik", [this] { quickList().openquik_Click(); });
+    addHandler("delete_inviso", [this] { quickList().delete_inviso_Click(); });
+    // Refresh can be chosen and does nothing.
+    addHandler("rfrsh_invisi", [] {});
     addHandler("svbar", [this] { tools_.svbar_Click(); });
     addHandler("strconvopen", [this] { tools_.strconvopen_Click(); });
     addHandler("sprdef", [this] { tools_.sprdef_Click(); });
@@ -47,7 +55,25 @@ void Compiler::addEditHandlers() {
     addHandler("pste", [this] { edit_.pste_Click(); });
     addHandler("dlll", [this] { edit_.dlll_Click(); });
     addHandler("slall", [this] { edit_.slall_Click(); });
+    addHandler("fnd", [this] { fnd_Click(); });
     addHandler("ocode", [this] { edit_.ocode_Click(); });
+}
+
+void Compiler::addToolHandlers() {
+    addHandler("set", [this] { set_Click(); });
+    for (int index = 0; index < 3; ++index) {
+        addHandler(
+            "set1", [this, index] { customTools_.set1_Click(static_cast<std::size_t>(index)); }, index);
+    }
+    addHandler("setall", [this] { customTools_.setall_Click(); });
+}
+
+void Compiler::addHelpHandlers() {
+    addHandler("rdme", [this] { help_.rdme_Click(); });
+    addHandler("abt", [this] { help_.abt_Click(); });
+    addHandler("mwp", [this] { help_.mwp_Click(); });
+    addHandler("emlme", [this] { help_.emlme_Click(); });
+    addHandler("takesurvay", [this] { help_.takesurvay_Click(); });
 }
 
 void Compiler::buildMenus() {
