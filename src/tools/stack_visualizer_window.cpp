@@ -114,6 +114,7 @@ void sv::placeStack() {
         const std::string name = "Label1_" + std::to_string(slot);
         auto* box = place<QLabel>(name.c_str(), "", {840, kSlotTop - kRowStep * (slot - 1), 855, 255});
         box->setFrameShape(QFrame::Box);
+        box->setTextFormat(Qt::PlainText);
         Label1[static_cast<std::size_t>(slot - 1)] = box;
     }
     spv = place<QLabel>("spv", "<--SP", {1800, StackModel::kArrowStart, 495, 255});

@@ -162,6 +162,7 @@ TEST_F(StackVisualizer, TakesAnyCharacters) {
     enter("af", "x \"y");
     press("Command1");
     EXPECT_EQ(slot(1).text(), "x \"y");
+    EXPECT_EQ(slot(1).textFormat(), Qt::PlainText);
 }
 
 TEST_F(StackVisualizer, F1TellsAboutItAndOpensNoHelp) {
