@@ -79,7 +79,7 @@ void Compiler::addHelpHandlers() {
 void Compiler::buildMenus() {
     QMenu* menu = nullptr;
     for (const MenuEntry& entry : menuTable()) {
-        if (entry.depth > 0) {
+        if (entry.depth > 0 && menu != nullptr) {
             addMenuEntry(*menu, entry);
             continue;
         }
