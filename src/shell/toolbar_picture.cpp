@@ -85,8 +85,9 @@ void drawCompile(QPainter& painter) {
     painter.setBrush(kGround.darker(120));
     painter.drawRoundedRect(QRectF(2.5, 1.5, 9, 13), 1.5, 1.5);
     painter.fillRect(QRectF(4, 3, 6, 3), kGreen.lighter(150));
-    for (int key = 0; key < 4; ++key) {
-        painter.fillRect(QRectF(4 + 3.5 * (key % 2), 8 + 3 * (key / 2), 2.5, 1.8), kInk);
+    for (const double x : {4.0, 7.5}) {
+        for (const double y : {8.0, 11.0})
+            painter.fillRect(QRectF(x, y, 2.5, 1.8), kInk);
     }
     painter.setBrush(kGreen);
     painter.drawPolygon(QPolygonF({{12.5, 6.5}, {18.5, 10.5}, {12.5, 14.5}}));

@@ -5,6 +5,7 @@
 #include "platform/linux/linux_launcher.h"
 #include "runtime/failure.h"
 #include "runtime/files.h"
+#include "shell/web_links.h"
 #include "support/temporary_folder.h"
 
 #include <filesystem>
@@ -123,6 +124,17 @@ TEST_F(Launcher, TheListingOpensInTheViewerWithItsWholePath) {
         return fileExists(folder + "/viewed") ? readFile(folder + "/viewed") : "";
     };
     EXPECT_TRUE(QTest::qWaitFor([&] { return viewed() == folder + "/temp.lst|"; }));
+}
+
+TEST_F(Launcher, TheHelpFileOpensInTheViewerUnderItsPathHere) {
+    const std::string folder = makeFolderWithScript("My Tools");
+    writeScript(folder + "/kav-viewer", "printf '%s|' \"$@\" > '" + folder + "/viewed'\n");
+    LinuxLauncher launcher{ApplicationFolder(folder)};
+    launcher.launch(helpCommand("", folder), WindowStyle::MaximizedFocus);
+    const auto viewed = [&folder] {
+        return fileExists(folder + "/viewed") ? readFile(folder + "/viewed") : "";
+    };
+    EXPECT_TRUE(QTest::qWaitFor([&] { return viewed() == folder + "/kavhelp.hlp|"; })) << viewed();
 }
 
 TEST_F(Launcher, AProgramThatIsNotThereIsFileNotFound) {

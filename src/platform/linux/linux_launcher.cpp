@@ -39,6 +39,13 @@ std::optional<std::string> argumentOf(const std::string& commandLine, const QStr
     return rest.toStdString();
 }
 
+/// The path of a file to view. The help file's command line joins folder and name with a backslash.
+std::string viewedPath(std::string path) {
+    const std::size_t joint = path.rfind('\\');
+    if (joint != std::string::npos && !fileExists(path)) path[joint] = '/';
+    return path;
+}
+
 QStringList listOf(const std::vector<std::string>& arguments) {
     QStringList list;
     for (const std::string& argument : arguments)
@@ -59,7 +66,7 @@ long LinuxLauncher::launch(const std::string& commandLine, WindowStyle style) {
         return startDetached("xdg-open", {*address});
     for (const char* viewed : {"notepad.exe", "winhelp.exe"}) {
         if (const auto file = argumentOf(commandLine, viewed)) {
-            return startDetached(applicationFolder_.file("kav-viewer"), {*file});
+            return startDetached(applicationFolder_.file("kav-viewer"), {viewedPath(*file)});
         }
     }
     const SplitCommand split = splitCommandLine(commandLine, isProgram);
