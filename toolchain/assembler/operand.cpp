@@ -13,6 +13,7 @@ namespace {
 constexpr std::uint8_t kIx = 0xDD;
 constexpr std::uint8_t kIy = 0xFD;
 constexpr std::uint8_t kMemoryCode = 6;  // (hl) among the registers
+constexpr std::size_t kLongestWord = 3;  // of the processor's own, which end at "ixh" and "af'"
 
 Operand plain(std::uint32_t classes, int code, std::uint8_t indexPrefix = 0) {
     Operand operand;
@@ -37,6 +38,7 @@ Operand registerC() {
 
 /// The operand that a word is, when it is a word of the processor; otherwise a value.
 Operand fromWord(std::string_view word) {
+    if (word.size() > kLongestWord) return plain(kValue, 0);
     // clang-format off
     switch (wordKey(word)) {
         case wordKey("b"):   return plain(kRegBde, 0);

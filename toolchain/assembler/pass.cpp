@@ -58,6 +58,11 @@ std::optional<std::int32_t> Pass::valueNow(std::string_view expression) {
         reportBadValue(where);
         return std::nullopt;
     }
+    if (world.strict) {
+        error("Forward reference in equate: " + shown(expression) +
+              " (labels that stand before are possible)");
+        return std::nullopt;
+    }
     anotherPassDue_ = true;
     return 0;
 }
