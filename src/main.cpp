@@ -5,6 +5,7 @@
 #include "platform/desktop/desktop_file_chooser.h"
 #include "platform/desktop/desktop_services.h"
 #include "platform/desktop/text_conversion.h"
+#include "platform/linux/linux_class_registry.h"
 #include "platform/linux/linux_launcher.h"
 #include "runtime/failure.h"
 #include "shell/application.h"
@@ -38,8 +39,10 @@ int main(int argumentCount, char** arguments) {
     kav::SystemClock clock;
     kav::SeededRandomNumbers random;
     kav::DesktopEnvironment environment;
+    kav::LinuxClassRegistry registry(kav::LinuxClassRegistry::userFile());
     try {
-        kav::Compiler compiler({boxes, fileChooser, launcher, clipboard, clock, random, environment}, folder);
+        kav::Compiler compiler(
+            {boxes, fileChooser, launcher, clipboard, clock, random, environment, registry}, folder);
         compiler.show();
         compiler.load(commandLineOf(argumentCount, arguments));
         return kav::Application::exec();

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "platform/boxes.h"
+#include "platform/class_registry.h"
 #include "platform/clipboard.h"
 #include "platform/clock.h"
 #include "platform/environment.h"
@@ -21,6 +22,7 @@ struct Platform {
     Clock& clock;
     RandomNumbers& random;
     Environment& environment;
+    ClassRegistry& registry;
 };
 
 }  // namespace kav

@@ -10,6 +10,7 @@
 #include "platform/desktop/text_conversion.h"
 #include "runtime/failure.h"
 #include "runtime/files.h"
+#include "settings/registration_window.h"
 #include "settings/settings_window.h"
 #include "shell/document_arrangement.h"
 #include "shell/failure_report.h"
@@ -188,6 +189,11 @@ void Compiler::fnd_Click() {
 
 void Compiler::set_Click() {
     settings dialog(applicationFolder_.file("prefs.ini"), this);
+    dialog.exec();
+}
+
+void Compiler::regist_Click() {
+    reg dialog(platform_.registry, applicationFolder_.path(), this);
     dialog.exec();
 }
 

@@ -80,6 +80,7 @@ class Compiler : public QMainWindow, public Workspace {
     void vew_list_Click();
     void fnd_Click();
     void set_Click();
+    void regist_Click();
     void sur_Timer();
 
     void buildMenus();

@@ -61,6 +61,7 @@ void Compiler::addEditHandlers() {
 
 void Compiler::addToolHandlers() {
     addHandler("set", [this] { set_Click(); });
+    addHandler("regist", [this] { regist_Click(); });
     for (int index = 0; index < 3; ++index) {
         addHandler(
             "set1", [this, index] { customTools_.set1_Click(static_cast<std::size_t>(index)); }, index);

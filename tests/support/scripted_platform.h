@@ -104,6 +104,20 @@ class ScriptedEnvironment : public Environment {
     void end(int exitCode) override { ended = exitCode; }
 };
 
+class ScriptedRegistry : public ClassRegistry {
+  public:
+    std::map<std::string, std::string> keys;
+
+    std::string defaultValue(const std::string& key) override {
+        const auto found = keys.find(key);
+        return found == keys.end() ? std::string() : found->second;
+    }
+    void createKey(const std::string& key) override { keys.try_emplace(key); }
+    void setDefaultValue(const std::string& key, const std::string& value) override {
+        if (keys.contains(key)) keys[key] = value;
+    }
+};
+
 /// All scripted services, and the Platform that hands them to the program.
 struct ScriptedPlatform {
     ScriptedBoxes boxes;
@@ -113,8 +127,11 @@ struct ScriptedPlatform {
     ScriptedClock clock;
     ScriptedRandomNumbers random;
     ScriptedEnvironment environment;
+    ScriptedRegistry registry;
 
-    Platform platform() { return {boxes, fileChooser, launcher, clipboard, clock, random, environment}; }
+    Platform platform() {
+        return {boxes, fileChooser, launcher, clipboard, clock, random, environment, registry};
+    }
 };
 
 }  // namespace kav::test
