@@ -6,6 +6,7 @@
 #include "documents/hidden_texts.h"
 #include "documents/text_box.h"
 #include "platform/desktop/text_conversion.h"
+#include "platform/desktop/twips.h"
 #include "runtime/failure.h"
 #include "runtime/number_text.h"
 #include "shell/workspace.h"
@@ -17,8 +18,7 @@ namespace kav {
 
 namespace {
 
-// The window's outer size less caption bar and borders, in twips of 1/1440 inch, 15 to a pixel at 96 dpi.
-constexpr int kTwipsPerPixel = 15;
+// The window's outer size less caption bar and borders, in twips.
 constexpr int kFrameHeightTwips = 450;
 constexpr int kFrameWidthTwips = 100;
 
