@@ -104,7 +104,7 @@ TEST_F(SettingsWindow, TheNextNormalExitPutsTheStartUpValuesBack) {
     EXPECT_EQ(line(2), "Tifont");
 }
 
-TEST_F(SettingsWindow, TickedEasterEggsMakeWebLinksUseTheFixedBrowserAfterARestart) {
+TEST_F(SettingsWindow, EasterEggsSwitchTheBrowserAndTheBrowserBoxTheDateNoticesAfterARestart) {
     open();
     check("eegg").setChecked(false);
     check("iexplore").setChecked(true);
