@@ -20,6 +20,14 @@ namespace {
 constexpr int kSmallestFont = 6;
 constexpr int kLargestFont = 96;
 
+/// Alt with a letter is no text: it belongs to menus and window managers. With Control beside it, it is how
+/// some systems send a keyboard's third level, which is text.
+bool isAltWithLetter(const QKeyEvent& event) {
+    const bool altAlone =
+        event.modifiers().testFlag(Qt::AltModifier) && !event.modifiers().testFlag(Qt::ControlModifier);
+    return altAlone && !event.text().isEmpty() && event.text().front().isPrint();
+}
+
 }  // namespace
 
 TextBox::TextBox(QWidget* parent) : QsciScintilla(parent) {
@@ -155,6 +163,8 @@ void TextBox::keyPressEvent(QKeyEvent* event) {
         copy();
     } else if (event->matches(QKeySequence::Paste)) {
         paste();
+    } else if (isAltWithLetter(*event)) {
+        event->ignore();
     } else {
         QsciScintilla::keyPressEvent(event);
     }

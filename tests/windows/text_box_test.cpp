@@ -50,6 +50,14 @@ TEST(TextBox, ReplacesTheSelectionAndStandsBehindIt) {
     EXPECT_EQ(box.selLength(), 0U);
 }
 
+TEST(TextBox, AltWithALetterIsNoText) {
+    TextBox box;
+    QTest::keyClick(box.viewport(), Qt::Key_T, Qt::AltModifier);
+    EXPECT_EQ(box.bytes(), "");
+    QTest::keyClick(box.viewport(), Qt::Key_T);
+    EXPECT_EQ(box.bytes(), "t");
+}
+
 TEST(TextBox, EnterGivesCrLf) {
     TextBox box;
     box.show();
