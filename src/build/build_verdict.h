@@ -9,7 +9,7 @@ namespace kav {
 enum class Verdict { Running, Success, Failure };
 
 /// The verdict in the status file's first line: "2" is running, "0" success and anything else, an empty
-/// line too, failure. Raises 62 when the file has no line at all.
+/// line or file too, failure.
 [[nodiscard]] Verdict verdictOf(std::string_view statusFileText);
 
 }  // namespace kav

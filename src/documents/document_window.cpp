@@ -9,7 +9,7 @@
 #include "platform/desktop/twips.h"
 #include "runtime/failure.h"
 #include "runtime/number_text.h"
-#include "shell/workspace.h"
+#include "shell/trapped.h"
 
 #include <QCloseEvent>
 #include <QMdiArea>
@@ -77,7 +77,9 @@ void Doc::txt_Change() {
             txt_->setTextBold(true);
             break;
         case HiddenText::Effect::Browser:
-            workspace_.platform().launcher.launch(hidden->commandLine, WindowStyle::MaximizedFocus);
+            trapped(workspace_, "txt_Change", [&] {
+                workspace_.platform().launcher.launch(hidden->commandLine, WindowStyle::MaximizedFocus);
+            });
             return;
         case HiddenText::Effect::None:
             break;

@@ -30,6 +30,7 @@ void refusable(StartUpStage stage, const std::string& path, Step step) {
 
 void Compiler::load(const std::string& commandLine) {
     readPreferences();
+    sur.start();
     if (preferences_.firstRun) prepareFirstRun();
     if (commandLine.empty()) {
         openFirstDocument();
@@ -37,7 +38,6 @@ void Compiler::load(const std::string& commandLine) {
         openCommandLine(commandLine);
     }
     if (preferences_.easterEggs) showDateNotices();
-    sur.start();
 }
 
 void Compiler::readPreferences() {

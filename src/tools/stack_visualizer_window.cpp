@@ -96,6 +96,19 @@ sv::sv(Workspace& workspace, QWidget* owner, StackModel& stack)
     registers_.front()->setFocus();
 }
 
+namespace {
+
+/// The field is narrow for four letters as wide as a D; condensed ones fit.
+void narrowRegister(QLineEdit& field) {
+    constexpr int kCondensed = 75;
+    QFont font = field.font();
+    font.setStretch(kCondensed);
+    field.setFont(font);
+    field.setTextMargins(-2, 0, -2, 0);
+}
+
+}  // namespace
+
 void sv::placeRegister(std::size_t index) {
     const RegisterRow& row = kRows[index];
     const int number = static_cast<int>(index);
@@ -103,6 +116,7 @@ void sv::placeRegister(std::size_t index) {
     const int buttonTop = kButtonTop + kRowStep * number;
     place<QLabel>(row.label, row.caption, {0, fieldTop, 255, 255});
     registers_[index] = place<RegisterField>(row.field, "0000", {240, fieldTop, 495, 285});
+    narrowRegister(*registers_[index]);
     auto* pushButton = place<QPushButton>(row.pushButton, row.pushCaption, {0, buttonTop, 855, 255});
     auto* popButton = place<QPushButton>(row.popButton, row.popCaption, {840, buttonTop, 855, 255});
     connect(pushButton, &QPushButton::clicked, this, [this, index] { push(index); });

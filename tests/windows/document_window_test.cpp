@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "runtime/failure.h"
 #include "windows/main_window_fixture.h"
 
 #include <QScrollBar>
@@ -110,6 +111,13 @@ TEST_F(DocumentWindow, ALaughStartsTheBrowserAndLeavesTheText) {
         "C:\\Program Files\\Internet Explorer\\iexplore.exe "));
     EXPECT_EQ(desktop_.launcher.launches[0].style, WindowStyle::MaximizedFocus);
     EXPECT_EQ(active().txt().bytes(), "Make me laugh");
+}
+
+TEST_F(DocumentWindow, ABrowserThatIsNotThereIsReported) {
+    desktop_.launcher.process = [](const std::string&) { throw failureOf(kFileNotFound); };
+    desktop_.boxes.answers = {BoxAnswer::Ignore};
+    setWholeText("Make me laugh");
+    EXPECT_NE(desktop_.boxes.shownBoxes.at(0).text.find("Error 53in module txt_Change: "), std::string::npos);
 }
 
 TEST_F(DocumentWindow, ARequestedDocumentComesToTheFrontAndTheRequestIsTaken) {

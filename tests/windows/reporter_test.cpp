@@ -29,6 +29,12 @@ TEST_F(Reporter, AsksWithIgnoreAsItsDefault) {
     EXPECT_FALSE(fileExists(folder_.file("kaverr.log")));
 }
 
+TEST_F(Reporter, IgnoreLeavesTheLogUntouched) {
+    writeFile(folder_.file("kaverr.log"), "what was there\r\n");
+    report(BoxAnswer::Ignore);
+    EXPECT_EQ(readFile(folder_.file("kaverr.log")), "what was there\r\n");
+}
+
 TEST_F(Reporter, RetryAppendsALineEachTime) {
     report(BoxAnswer::Retry);
     report(BoxAnswer::Retry);
