@@ -7,7 +7,7 @@ project=$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")/../..
 . "$project/scripts/virtual_desktop.sh"
 
 # For checked builds.
-export LSAN_OPTIONS="suppressions=$project/tests/support/leaks.supp:print_suppressions=0"
+export LSAN_OPTIONS="suppressions=$project/tests/acceptance/leaks.supp:print_suppressions=0"
 
 built_application=$1 run_program=$2 pictures=$3
 rm -rf "$pictures"
