@@ -2,6 +2,7 @@
 // The files of the projects folder, ready to open.
 #include "documents/quick_list_window.h"
 
+#include "platform/desktop/bring_to_front.h"
 #include "platform/desktop/text_conversion.h"
 #include "runtime/failure.h"
 #include "runtime/files.h"
@@ -34,9 +35,7 @@ filez::filez(Workspace& workspace, QMenu& QuikFileMenu, QWidget* owner)
 
 void filez::showList() {
     readFolder();
-    show();
-    raise();
-    activateWindow();
+    bringToFront(*this);
 }
 
 void filez::showEvent(QShowEvent* event) {

@@ -7,6 +7,7 @@
 #include "documents/find_window.h"
 #include "documents/quick_list_window.h"
 #include "documents/text_box.h"
+#include "platform/desktop/bring_to_front.h"
 #include "platform/desktop/text_conversion.h"
 #include "runtime/failure.h"
 #include "runtime/files.h"
@@ -182,9 +183,7 @@ void Compiler::vew_list_Click() {
 void Compiler::fnd_Click() {
     if (values_.openDocuments == 0) return;
     if (findWindow_ == nullptr) findWindow_ = new class find(*this, this);
-    findWindow_->show();
-    findWindow_->raise();
-    findWindow_->activateWindow();
+    bringToFront(*findWindow_);
 }
 
 void Compiler::set_Click() {

@@ -4,6 +4,7 @@
 
 #include "documents/document_window.h"
 #include "documents/text_box.h"
+#include "platform/desktop/bring_to_front.h"
 #include "platform/desktop/text_conversion.h"
 #include "runtime/failure.h"
 #include "shell/workspace.h"
@@ -119,9 +120,7 @@ void dbgr::addTask(const std::string& text, const std::string& tag, std::uint32_
 }
 
 void dbgr::showList() {
-    show();
-    raise();
-    activateWindow();
+    bringToFront(*this);
 }
 
 void dbgr::showEvent(QShowEvent* event) {

@@ -2,6 +2,7 @@
 // The Tools menu's entries for the user's own tools.
 #include "tools/custom_tool_commands.h"
 
+#include "platform/desktop/bring_to_front.h"
 #include "runtime/files.h"
 #include "shell/preferences_file.h"
 #include "shell/trapped.h"
@@ -34,9 +35,7 @@ void CustomToolCommands::setall_Click() {
     const PreferencesTable table(readFile(path));
     trapped(workspace_, "setall_Click", [&] {
         if (dialog_ == nullptr) dialog_ = new custset(path, table);
-        dialog_->show();
-        dialog_->raise();
-        dialog_->activateWindow();
+        bringToFront(*dialog_);
     });
 }
 

@@ -4,6 +4,7 @@
 
 #include "documents/document_window.h"
 #include "documents/text_box.h"
+#include "platform/desktop/bring_to_front.h"
 #include "shell/workspace.h"
 
 #include <algorithm>
@@ -27,9 +28,7 @@ ToolWindow::ToolWindow(Workspace& workspace, QWidget* owner, const char* name, c
 
 void ToolWindow::bringToFront() {
     setWindowState(windowState() & ~Qt::WindowMinimized);
-    show();
-    raise();
-    activateWindow();
+    kav::bringToFront(*this);
 }
 
 void ToolWindow::adopt(QWidget& control, const char* name, const TwipsRect& at) {
