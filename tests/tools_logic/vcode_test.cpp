@@ -85,7 +85,40 @@ std::string sizesLine(std::string_view text) {
 
 using Lines = std::vector<std::string>;
 
+/// The table's pairs with the codes that programs on the calculator unpack them by, each written out.
+struct CodeOfPair {
+    unsigned code;
+    std::string_view pair;
+};
+
+constexpr CodeOfPair kCodes[] = {
+    {0x81, "is"}, {0x82, "nt"}, {0x83, "he"}, {0x84, "ei"}, {0x85, "et"}, {0x86, "ea"}, {0x87, "ay"},
+    {0x88, "as"}, {0x89, "or"}, {0x8A, "nd"}, {0x8B, "it"}, {0x8C, "er"}, {0x8D, "in"}, {0x8E, "on"},
+    {0x8F, "pa"}, {0x90, "ar"}, {0x91, "um"}, {0x92, "el"}, {0x93, "e."}, {0x94, "ic"}, {0x95, "e!"},
+    {0x96, "ey"}, {0x97, "ss"}, {0x98, "mm"}, {0x99, "en"}, {0x9A, "ll"}, {0x9B, "ro"}, {0x9C, "od"},
+    {0x9D, "hi"}, {0x9E, "go"}, {0x9F, "at"}, {0xA0, "to"}, {0xA1, "ad"}, {0xA2, "am"}, {0xA3, "an"},
+    {0xA4, "ax"}, {0xA5, "be"}, {0xA6, "by"}, {0xA7, "cc"}, {0xA8, "co"}, {0xA9, "s."}, {0xAA, "g."},
+    {0xAB, "t:"}, {0xAC, "do"}, {0xAD, "ha"}, {0xAE, "he"}, {0xAF, "hp"}, {0xB0, "id"}, {0xB1, "if"},
+    {0xB2, "me"}, {0xB3, "io"}, {0xB4, "se"}, {0xB5, "op"}, {0xB6, "sh"}, {0xB7, "ng"}, {0xB8, "wa"},
+    {0xB9, "xt"}, {0xBA, "ta"}, {0xBB, ".."}, {0xBC, "ib"}, {0xBD, "rt"}, {0xBE, "e?"}, {0xBF, "r."},
+    {0xC0, "pi"}, {0xC1, "ma"}, {0xC2, "th"}, {0xC3, "Mi"}, {0xC4, "Bu"}, {0xC5, "Ex"}, {0xC6, "Fi"},
+    {0xC7, "Te"}, {0xC8, "Ca"}, {0xC9, "lc"}, {0xCA, "ul"}, {0xCB, "li"}, {0xCC, "br"}, {0xCD, "Al"},
+    {0xCE, "ex"}, {0xCF, "Ro"}, {0xD0, "pe"}, {0xD1, "r."}, {0xD2, "Er"}, {0xD3, "nc"}, {0xD4, "e "},
+    {0xD5, "s "}, {0xD6, "r "}, {0xD7, "Da"}, {0xD8, "n "}, {0xD9, ""},   {0xDA, "gl"}, {0xDB, "de"},
+    {0xDC, "Ja"}, {0xDD, "n "}, {0xDE, "Ko"}, {0xDF, "va"}, {0xE0, "cs"}, {0xE1, "te"}, {0xE2, "st"},
+    {0xE3, "Th"}, {0xE4, "lo"}, {0xE5, "Se"}, {0xE6, "He"},
+};
+
 }  // namespace
+
+TEST(VCode, HasTheTableThatProgramsUnpackBy) {
+    ASSERT_EQ(std::size(kCodes), kVCodePairs.size());
+    unsigned expectedCode = 0x81;
+    for (const auto& [code, pair] : kCodes) {
+        EXPECT_EQ(code, expectedCode++);
+        EXPECT_EQ(kVCodePairs[code - 0x81], pair) << "$" << hexadecimal(code);
+    }
+}
 
 TEST(VCode, WritesThreeCommentsAndTheData) {
     EXPECT_EQ(vcodeConversion("is", LineStart::spaced, neverAsked),

@@ -72,6 +72,11 @@ TEST_F(StackVisualizer, HasItsControlsInTheirPlaces) {
     }
 }
 
+TEST_F(StackVisualizer, StandsOverTheMainWindowAndEndsWithIt) {
+    EXPECT_TRUE(tool().isWindow());
+    EXPECT_EQ(tool().parentWidget(), &compiler());
+}
+
 TEST_F(StackVisualizer, ShowsTheArrowWhole) {
     EXPECT_LE(label("spv").x() + label("spv").sizeHint().width(), tool().width());
 }

@@ -148,6 +148,14 @@ TEST_F(StringConverterWindow, InsertsInPlaceOfTheSelection) {
     EXPECT_TRUE(active().isModified());
 }
 
+TEST_F(StringConverterWindow, InsertsAtTheCaretWhereNothingIsSelected) {
+    active().txt().setBytes("abcdef");
+    active().txt().setSelStart(3);
+    convert("x");
+    press("Command3");
+    EXPECT_EQ(active().txt().bytes(), "abc .db \"x\"def");
+}
+
 TEST_F(StringConverterWindow, InsertsNothingWithoutADocument) {
     active().close();
     ASSERT_TRUE(documents().empty());
