@@ -19,8 +19,10 @@ saved=$pictures/$name.8xp
 rm -f "$saved"
 
 start_desktop
+first_run=$(sed -n 16p "$application/prefs.ini" | tr -d ' \r')
 "$application/kav-compiler" "$source_file" &
 program=$!
+if [ "$first_run" = 1 ]; then skip_registration; fi
 wait_window "KAV Compiler"
 picture 1-opened
 key ctrl+l

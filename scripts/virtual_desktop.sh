@@ -60,6 +60,12 @@ type_text() { xdotool type --clearmodifiers --delay 15 "$1"; }
 # click X Y: the left button at a place in the window that has the keyboard.
 click() { xdotool mousemove --window "$(xdotool getactivewindow)" "$1" "$2" click 1; }
 
+# skip_registration: closes the dialog about file types that meets the user on a first run, and registers nothing.
+skip_registration() {
+    wait_window "Registry"
+    key Escape
+}
+
 # end_program: closes the window that has the keyboard and waits for the end of $program.
 end_program() {
     key alt+F4

@@ -56,6 +56,7 @@ void Compiler::prepareFirstRun() {
     const std::string projects = applicationFolder_.project();
     refusable(StartUpStage::MakeProjectsFolder, projects, [&] { makeFolder(projects); });
     cd_.fileName = applicationFolder_.project("yourfile");
+    regist_Click();
 }
 
 void Compiler::openCommandLine(const std::string& commandLine) {

@@ -16,9 +16,22 @@ application="$desktop_folder/Calculator Programs/KAV Compiler of mine"
 mkdir -p "$(dirname "$application")"
 cp -a "$built_application" "$application"
 rm -rf "$application/Projects" "$application"/*.z80 "$application"/*.8xp "$application/comp.bat"
-cp "$project/packaging/prefs.ini" "$application/prefs.ini"
+# The user has run the program before; a journey through the first run says so (begin_first_run).
+mkdir "$application/Projects"
+sed '16s/1/0/' "$project/packaging/prefs.ini" >"$application/prefs.ini"
 documents="$desktop_folder/documents"
 mkdir -p "$documents"
+
+# What the program keeps for its user and publishes to the desktop stays within the journey.
+export HOME=$desktop_folder/home
+mkdir "$HOME"
+unset XDG_DATA_HOME XDG_CONFIG_HOME XDG_CACHE_HOME XDG_DATA_DIRS XDG_CONFIG_DIRS
+
+# begin_first_run: the application folder as it is installed.
+begin_first_run() {
+    rm -rf "$application/Projects"
+    cp "$project/packaging/prefs.ini" "$application/prefs.ini"
+}
 
 # start_program [FILE]: starts it and waits for its window.
 start_program() {

@@ -20,6 +20,7 @@ refused() {
 
 program_shows_message() { [ -s "$desktop_folder/program.log" ] && xdotool getactivewindow >/dev/null 2>&1 && sleep 0.5; }
 
+begin_first_run
 mkdir "$application/Projects"
 refused first-run-with-projects-folder "Projects"
 cmp "$project/packaging/prefs.ini" "$application/prefs.ini" || fail "the preferences were changed"
@@ -33,8 +34,7 @@ refused no-preferences "prefs.ini"
 [ ! -e "$application/prefs.ini" ] || fail "a preferences file was made up"
 
 # What nobody catches while the program runs ends it with a message, too.
-rm -rf "$application/Projects"
-cp "$project/packaging/prefs.ini" "$application/prefs.ini"
+sed '16s/1/0/' "$project/packaging/prefs.ini" >"$application/prefs.ini"
 start_program
 rm "$application/prefs.ini"
 mkdir "$application/prefs.ini"

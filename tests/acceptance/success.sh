@@ -23,5 +23,4 @@ compile kavprog
 save_program "$documents/kavprog.8xp"
 picture 3-template
 end_program
-[ "$(preference_line 16)" = " 0 " ] || fail "the first run did not end: line 16 is '$(preference_line 16)'"
 [ "$(preference_line 20)" = "$documents/hello.z80" ] || fail "the recent file is '$(preference_line 20)'"

@@ -3,10 +3,48 @@
 #include "windows/main_window_fixture.h"
 
 #include <filesystem>
+#include <functional>
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QDialog>
+#include <QPushButton>
+#include <QTimer>
 
 namespace kav::test {
 
 using StartUp = MainWindow;
+
+/// A first start: no projects folder yet, and a user who answers the registration dialog.
+class FirstRun : public MainWindow {
+  protected:
+    void SetUp() override {
+        MainWindow::SetUp();
+        std::filesystem::remove(folder_.file("Projects"));
+        writeFile(folder_.file("prefs.ini"), firstRunPreferences());
+    }
+
+    /// Starts the program; `answer` sees the dialog that start-up waits for.
+    void startAndAnswer(const std::function<void(QDialog&)>& answer, const std::string& commandLine = {}) {
+        QTimer firstTurn;
+        firstTurn.setSingleShot(true);
+        QObject::connect(&firstTurn, &QTimer::timeout, [this, &answer] {
+            auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+            if (dialog == nullptr) return;
+            dialogName_ = dialog->objectName().toStdString();
+            answer(*dialog);
+            dialog->reject();  // has no effect on one that Ok has closed
+        });
+        firstTurn.start(0);
+        startWithFile(commandLine);
+    }
+
+    static void press(QDialog& dialog, const char* button) {
+        QTest::mouseClick(dialog.findChild<QPushButton*>(button), Qt::LeftButton);
+    }
+
+    std::string dialogName_;  ///< of the dialog that was met; empty when there was none
+};
 
 TEST_F(StartUp, WithNothingToOpenShowsOneUntitledDocument) {
     start();
@@ -47,18 +85,48 @@ TEST_F(StartUp, ACommandLinesFileGoesOnTopOfTheListAndIsTitledWithTheDialogsName
     EXPECT_TRUE(compiler().menuItem("s_hamnibar")->isVisible());
 }
 
-TEST_F(StartUp, TheFirstRunMakesTheProjectsFolderAndPresetsTheDialog) {
-    std::filesystem::remove(folder_.file("Projects"));
-    writeFile(folder_.file("prefs.ini"), firstRunPreferences());
+TEST_F(FirstRun, MakesTheProjectsFolderAndPresetsTheDialog) {
     writeFile(folder_.file("a.z80"), "");
-    startWithFile(folder_.file("a.z80"));
+    startAndAnswer([](QDialog& dialog) { press(dialog, "Command2"); }, folder_.file("a.z80"));
     EXPECT_TRUE(std::filesystem::is_directory(folder_.file("Projects")));
     EXPECT_EQ(compiler().cd().fileName, folder_.file("Projects/yourfile"));
     EXPECT_EQ(active().caption(), "Doc 1\t" + folder_.file("Projects/yourfile"));
 }
 
-TEST_F(StartUp, AFirstRunIsRefusedWhereTheProjectsFolderExists) {
-    writeFile(folder_.file("prefs.ini"), firstRunPreferences());
+TEST_F(FirstRun, AsksAfterFileTypesBeforeAnyDocumentOpens) {
+    startAndAnswer([this](QDialog& dialog) {
+        auto* owner = qobject_cast<Compiler*>(dialog.parentWidget());
+        ASSERT_NE(owner, nullptr);
+        EXPECT_TRUE(owner->isVisible());
+        EXPECT_TRUE(dialog.isModal());
+        EXPECT_EQ(owner->values().openDocuments, 0);
+        EXPECT_EQ(owner->cd().fileName, folder_.file("Projects/yourfile"));
+        dialog.findChild<QCheckBox*>("kvf")->setChecked(true);
+        press(dialog, "Command1");
+    });
+    EXPECT_EQ(dialogName_, "reg");
+    EXPECT_EQ(desktop_.registry.defaultValue(".kvf"), "Z80AsmSrc");
+    EXPECT_EQ(active().caption(), "Doc 1\tUntitled");
+}
+
+TEST_F(FirstRun, RegistersNothingWhenTheDialogIsCancelled) {
+    startAndAnswer([](QDialog& dialog) { press(dialog, "Command2"); });
+    EXPECT_EQ(dialogName_, "reg");
+    EXPECT_TRUE(desktop_.registry.keys.empty());
+    EXPECT_EQ(active().caption(), "Doc 1\tUntitled");
+}
+
+TEST_F(FirstRun, AloneShowsTheDialog) {
+    startAndAnswer([](QDialog&) {});
+    ASSERT_EQ(dialogName_, "reg");
+    EXPECT_TRUE(compiler().close());
+    dialogName_.clear();
+    startAndAnswer([](QDialog&) {});
+    EXPECT_EQ(dialogName_, "");
+}
+
+TEST_F(FirstRun, IsRefusedWhereTheProjectsFolderExists) {
+    makeFolder(folder_.file("Projects"));
     EXPECT_THROW(startWithFile(), Failure);
     EXPECT_EQ(readFile(folder_.file("prefs.ini")), firstRunPreferences());
 }
