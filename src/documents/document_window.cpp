@@ -2,6 +2,7 @@
 // One open source file.
 #include "documents/document_window.h"
 
+#include "documents/aids/document_aids.h"
 #include "documents/caption.h"
 #include "documents/hidden_texts.h"
 #include "documents/text_box.h"
@@ -30,12 +31,15 @@ Doc::Doc(Workspace& workspace) : workspace_(workspace), client_(new QWidget), tx
     setWidget(client_);
     client_->setFocusProxy(txt_);
     txt_->setTextFont(workspace.values().fontName, workspace.values().fontSize);
+    aids_ = std::make_unique<DocumentAids>(*this, workspace);
     connect(txt_, &TextBox::changed, this, &Doc::txt_Change);
 
     Timer1.setObjectName("Timer1");
     Timer1.setInterval(1);
     connect(&Timer1, &QTimer::timeout, this, &Doc::Timer1_Timer);
 }
+
+Doc::~Doc() = default;
 
 void Doc::setCaption(const std::string& caption) {
     caption_ = caption;

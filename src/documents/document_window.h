@@ -2,6 +2,7 @@
 // One open source file.
 #pragma once
 
+#include <memory>
 #include <string>
 
 #include <QMdiSubWindow>
@@ -9,6 +10,7 @@
 
 namespace kav {
 
+class DocumentAids;
 class TextBox;
 class Workspace;
 
@@ -20,6 +22,7 @@ class Doc : public QMdiSubWindow {
 
   public:
     explicit Doc(Workspace& workspace);
+    ~Doc() override;
 
     [[nodiscard]] TextBox& txt() const { return *txt_; }
 
@@ -51,6 +54,7 @@ class Doc : public QMdiSubWindow {
     Workspace& workspace_;
     QWidget* client_;
     TextBox* txt_;
+    std::unique_ptr<DocumentAids> aids_;
     QTimer Timer1;
     std::string caption_;
 };

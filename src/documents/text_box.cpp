@@ -134,6 +134,16 @@ void TextBox::setTextBold(bool bold) {
 
 void TextBox::applyToAllStyles() {
     SendScintilla(SCI_STYLECLEARALL);
+    emit stylesReset();
+}
+
+void TextBox::setTextColours(std::uint32_t text, std::uint32_t paper) {
+    SendScintilla(SCI_STYLESETFORE, static_cast<uintptr_t>(STYLE_DEFAULT), static_cast<intptr_t>(text));
+    SendScintilla(SCI_STYLESETBACK, static_cast<uintptr_t>(STYLE_DEFAULT), static_cast<intptr_t>(paper));
+    SendScintilla(SCI_STYLECLEARALL);
+    SendScintilla(SCI_SETCARETFORE, static_cast<uintptr_t>(text));
+    setSelectionForegroundColor(palette().color(QPalette::HighlightedText));
+    setSelectionBackgroundColor(palette().color(QPalette::Highlight));
 }
 
 void TextBox::releaseKey(const QKeySequence& key) {

@@ -2,7 +2,7 @@
 // The text box of a document window: bytes in, bytes out.
 #pragma once
 
-#include <functional>
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -52,6 +52,10 @@ class TextBox : public QsciScintilla {
     void setTextItalic(bool italic);
     void setTextBold(bool bold);
 
+    /// Colours of text that nothing else colours, of the caret and of the selection; red in the low byte.
+    /// What was set for single styles is gone.
+    void setTextColours(std::uint32_t text, std::uint32_t paper);
+
     /// Leaves the key to the menus: the box has no command of its own for it.
     void releaseKey(const QKeySequence& key);
 
@@ -63,6 +67,9 @@ class TextBox : public QsciScintilla {
   signals:
     /// The text has changed, by a key or by the program. Sent once the change is complete.
     void changed();
+
+    /// The font has changed: all styles are alike again.
+    void stylesReset();
 
   protected:
     void keyPressEvent(QKeyEvent* event) override;
