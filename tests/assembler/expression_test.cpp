@@ -69,7 +69,7 @@ TEST_F(Expressions, WaitForLabelsThatMayFollow) {
 }
 
 TEST_F(Expressions, UseTheValueOfThePassBefore) {
-    symbols_.define("later", 0, 7, LabelKind::kAddress);
+    symbols_.define("later", 0, 7, LabelKind::kAddress, {});
     symbols_.beginPass();
     EXPECT_EQ(evaluator_.evaluate("later", place_).state, Value::kForward);
     world_.usePreviousPass = true;
@@ -77,8 +77,8 @@ TEST_F(Expressions, UseTheValueOfThePassBefore) {
 }
 
 TEST_F(Expressions, FindLocalLabelsInTheirModule) {
-    symbols_.define("_here", 1, 5, LabelKind::kAddress);
-    symbols_.define("_here", 2, 6, LabelKind::kAddress);
+    symbols_.define("_here", 1, 5, LabelKind::kAddress, {});
+    symbols_.define("_here", 2, 6, LabelKind::kAddress, {});
     EXPECT_EQ(valueOf("_HERE"), 5);
     place_.module = 2;
     EXPECT_EQ(valueOf("_here"), 6);

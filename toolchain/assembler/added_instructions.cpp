@@ -123,4 +123,11 @@ bool AddedInstructions::knows(std::string_view mnemonic) const {
     return forms_.find(lowered(mnemonic)) != forms_.end();
 }
 
+std::vector<std::string> AddedInstructions::mnemonics() const {
+    std::vector<std::string> names;
+    for (const auto& [name, forms] : forms_)
+        names.push_back(name);
+    return names;
+}
+
 }  // namespace kav::assembler

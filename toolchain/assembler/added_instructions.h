@@ -46,6 +46,9 @@ class AddedInstructions {
     /// True when forms of the mnemonic were added.
     [[nodiscard]] bool knows(std::string_view mnemonic) const;
 
+    /// All mnemonics that forms were added for, in lower case.
+    [[nodiscard]] std::vector<std::string> mnemonics() const;
+
   private:
     std::unordered_map<std::string, std::vector<AddedInstruction>> forms_;  // by mnemonic in lower case
 };

@@ -18,9 +18,30 @@ std::vector<Symbol> symbolsOf(const Pass& pass) {
     for (const Label& label : pass.knowledge.symbols.labels()) {
         if (!label.defined) continue;
         const std::string module = label.scope == 0 ? "" : pass.moduleNames[label.scope - 1] + ".";
-        symbols.push_back({module + std::string(label.name), label.value, label.kind == LabelKind::kAddress});
+        symbols.push_back({module + std::string(label.name), label.value, label.kind == LabelKind::kAddress,
+                           *label.place.file, label.place.line});
     }
     return symbols;
+}
+
+std::string parametersOf(const Macro& macro) {
+    if (!macro.takesArguments) return {};
+    std::string list;
+    for (const std::string& parameter : macro.parameters)
+        list += (list.empty() ? "" : ",") + parameter;
+    return "(" + list + ")";
+}
+
+std::vector<NamedMacro> macrosOf(const Pass& pass) {
+    std::vector<NamedMacro> named;
+    for (const auto& [key, macros] : pass.macros.all()) {
+        for (const Macro& macro : macros) {
+            const bool placed = macro.place.file != nullptr;
+            named.push_back({macro.name, parametersOf(macro), macro.body,
+                             placed ? *macro.place.file : std::string(), macro.place.line});
+        }
+    }
+    return named;
 }
 
 Result resultOf(const Pass& pass) {
@@ -31,6 +52,11 @@ Result resultOf(const Pass& pass) {
     result.origin = pass.image.origin();
     result.symbols = symbolsOf(pass);
     if (pass.options.wantListing) result.listing = writeListing(pass.listed, pass.image, result.messages);
+    if (pass.options.wantOutline) {
+        result.statements = pass.outline;
+        result.macros = macrosOf(pass);
+        result.addedMnemonics = pass.addedInstructions.mnemonics();
+    }
     return result;
 }
 

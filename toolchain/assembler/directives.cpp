@@ -4,6 +4,7 @@
 
 #include "assembler/text.h"
 #include "assembler/word_key.h"
+#include "assembler/words.h"
 
 namespace kav::assembler {
 
@@ -232,11 +233,17 @@ const Directive* directiveCalled(std::string_view operation, const Statement& st
     return found == WordIndex::kNone ? nullptr : &kDirectives[found];
 }
 
-void considerDirectives(NearestWord& nearest, bool withPeriod) {
+std::vector<std::string_view> directiveNames() {
+    std::vector<std::string_view> names;
     for (const Directive& directive : kDirectives) {
-        if (directive.name.back() != '=')
-            nearest.consider((withPeriod ? "." : "") + std::string(directive.name));
+        if (directive.name.back() != '=') names.push_back(directive.name);
     }
+    return names;
+}
+
+void considerDirectives(NearestWord& nearest, bool withPeriod) {
+    for (const std::string_view name : directiveNames())
+        nearest.consider((withPeriod ? "." : "") + std::string(name));
 }
 
 }  // namespace kav::assembler

@@ -152,7 +152,8 @@ Value Evaluator::name() {
         return {Value::kKnown, label->previousValue};
     }
     if (world_.labelsMayFollow) return {Value::kForward, 0};
-    return bad("Label not found: " + shownName(word) + didYouMean(nearestLabel(word, world_.symbols)));
+    const std::string nearest = world_.suggest ? nearestLabel(word, world_.symbols) : std::string();
+    return bad("Label not found: " + shownName(word) + didYouMean(nearest));
 }
 
 bool Evaluator::isAnonymousReference() const {

@@ -58,6 +58,7 @@ struct ExpressionWorld {
     bool strict = false;           ///< refuse what the dialect itself does not have
     bool labelsMayFollow = true;   ///< false once a label without a value is an error
     bool usePreviousPass = false;  ///< labels that follow have the value of the pass before
+    bool suggest = true;           ///< errors name the label nearest to a misspelt one
 };
 
 /// Finds the value of expressions. One at a time; the error is that of the last one.

@@ -5,7 +5,7 @@
 #include "assembler/lines.h"
 #include "assembler/suggestion.h"
 #include "assembler/text.h"
-#include "assembler/word_key.h"
+#include "assembler/words.h"
 
 namespace kav::assembler {
 
@@ -159,6 +159,7 @@ void readDefine(Pass& pass, std::string_view text) {
     text.remove_prefix(name.size());
     if (!text.empty() && text.front() == '(' && !readParameters(pass, text, macro)) return;
     macro.body = withoutComment(text);
+    macro.place = pass.place();
     pass.macros.define(std::move(macro));
 }
 
@@ -177,6 +178,7 @@ void readMacro(Pass& pass, std::string_view text) {
     Macro macro;
     macro.name = name.empty() ? "?" : name;  // its lines are skipped even without a name
     macro.hasLines = true;
+    macro.place = pass.place();
     text = trimmed(text.substr(name.size()));
     if (!text.empty() && text.front() == '(') readParameters(pass, text, macro);
     pass.macroBeingRead = std::move(macro);
@@ -218,7 +220,8 @@ constexpr HashDirective kDirectives[] = {
 void reportUnknown(Pass& pass, std::string_view word) {
     NearestWord nearest(word);
     for (const HashDirective& directive : kDirectives) {
-        if (!directive.extension || !pass.options.strict) nearest.consider(directive.name);
+        const bool known = !directive.extension || !pass.options.strict;
+        if (known && pass.options.wantSuggestions) nearest.consider(directive.name);
     }
     const std::string best = nearest.best().empty() ? "" : "#" + nearest.best();
     pass.error("Unrecognized directive: #" + shown(word) + didYouMean(best));
@@ -237,6 +240,13 @@ void readHashDirective(Pass& pass, std::string_view text) {
         return;
     }
     if (!pass.conditionals.skipping()) reportUnknown(pass, word);
+}
+
+std::vector<std::string_view> hashDirectiveNames() {
+    std::vector<std::string_view> names;
+    for (const HashDirective& directive : kDirectives)
+        names.push_back(directive.name);
+    return names;
 }
 
 bool endsMacro(std::string_view text) {

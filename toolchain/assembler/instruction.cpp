@@ -101,6 +101,7 @@ void emitForm(Pass& pass, const InstructionForm& form, const Operands& operands)
         if (operands[i].indexPrefix != 0) indexPrefix = operands[i].indexPrefix;
         if ((form.operands[i] & operands[i].classes & kAtIndexed) != 0) indexed = &operands[i];
     }
+    const std::int32_t start = pass.location;
     if (indexPrefix != 0) pass.emit(indexPrefix);
     if (form.prefix != 0) pass.emit(form.prefix);
     const bool displacementFirst = indexed != nullptr && form.prefix == kBitPrefix;
@@ -117,6 +118,7 @@ void emitForm(Pass& pass, const InstructionForm& form, const Operands& operands)
             pass.fillField(*field, opcodeAddress, operands[i].expression);
         }
     }
+    pass.addTime(start);
 }
 
 bool loads(std::string_view mnemonic) {
@@ -181,6 +183,7 @@ void assembleAdded(Pass& pass, const AddedMatch& match) {
     }
     while (pass.location < start + added.size)
         pass.emit(0);
+    pass.addTime(start);
 }
 
 }  // namespace kav::assembler

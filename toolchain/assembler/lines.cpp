@@ -6,6 +6,7 @@
 #include "assembler/statement.h"
 #include "assembler/text.h"
 
+#include <algorithm>
 #include <cstring>
 
 namespace kav::assembler {
@@ -14,8 +15,6 @@ namespace {
 
 constexpr int kDeepestInclude = 32;
 constexpr int kDeepestMacro = 32;
-constexpr std::uint64_t kMostLines = 6'000'000;         // in all passes
-constexpr std::uint64_t kMostMacroWork = 512ULL << 20;  // characters moved in one pass
 
 // The program writes these ten lines in front of the user's document; they do not count as lines of it.
 constexpr int kBlockLines = 10;
@@ -52,7 +51,7 @@ bool beginsWithBlock(std::string_view text) {
 
 void startLine(Pass& pass) {
     ++pass.where.order;
-    if (++pass.knowledge.linesRead > kMostLines) {
+    if (++pass.knowledge.linesRead > pass.options.maxLines) {
         pass.diagnostics.fatal(pass.where, "Macro expansion too long: the source has too many lines");
     }
     pass.lineBytes = 0;
@@ -118,6 +117,36 @@ std::size_t endOfStatement(std::string_view line, std::size_t from) {
     return line.size();
 }
 
+/// The position behind all statements of the line: its end or its comment.
+std::size_t endOfStatements(std::string_view line, std::size_t from) {
+    std::size_t end = endOfStatement(line, from);
+    while (end < line.size() && line[end] == '\\')
+        end = endOfStatement(line, end + 1);
+    return std::min(end, line.size());
+}
+
+/// Assembles what stands in a part of the line, and notes what it became where that is wanted.
+template <typename Assemble>
+void outlined(Pass& pass, std::string_view line, std::size_t begin, std::size_t end,
+              const Assemble& assemble) {
+    const bool ofDocument = pass.includeDepth == 0 && !pass.textIsTemporary && pass.where.line > 0;
+    if (!pass.options.wantOutline || !ofDocument) return assemble();
+    const std::int32_t bytesBefore = pass.lineBytes;
+    const std::int32_t addressBefore = pass.lineAddress;
+    pass.lineBytes = 0;
+    pass.statementTime = {};
+    assemble();
+    if (pass.lineBytes > 0) {
+        const std::string_view text = trimmed(line.substr(begin, end - begin));
+        const auto first = static_cast<std::size_t>(text.data() - line.data());
+        pass.outline.push_back({pass.where.line, first, first + text.size(),
+                                static_cast<std::uint16_t>(pass.lineAddress),
+                                static_cast<std::uint32_t>(pass.lineBytes), pass.statementTime});
+    }
+    if (bytesBefore > 0) pass.lineAddress = addressBefore;
+    pass.lineBytes += bytesBefore;
+}
+
 void readStatements(Pass& pass, std::string_view line) {
     std::size_t begin = 0;
     while (begin <= line.size() && !pass.fileEnded) {
@@ -131,7 +160,7 @@ void readStatements(Pass& pass, std::string_view line) {
         if (first < statement.size() && statement[first] == '#') {
             readHashDirective(pass, statement.substr(first));
         } else if (first < statement.size() && !pass.conditionals.skipping()) {
-            assembleStatement(pass, statement);
+            outlined(pass, line, begin, end, [&] { assembleStatement(pass, statement); });
         }
         if (end >= line.size() || line[end] == ';') return;
         begin = end + 1;
@@ -201,7 +230,7 @@ void readLine(Pass& pass, std::string_view line) {
 
     std::string expanded;
     const Expansion outcome = pass.expander.expand(line, first, !pass.options.strict, expanded);
-    if (pass.expander.work() > kMostMacroWork) {
+    if (pass.expander.work() > pass.options.maxMacroWork) {
         pass.diagnostics.fatal(pass.where, "Macro expansion too long: the macros of this source have no end");
     }
     if (outcome == Expansion::kNothing) {
@@ -212,10 +241,12 @@ void readLine(Pass& pass, std::string_view line) {
         reportExpansion(pass, outcome);
         return;
     }
-    const bool outer = pass.textIsTemporary;
-    pass.textIsTemporary = true;
-    readStatements(pass, expanded);
-    pass.textIsTemporary = outer;
+    outlined(pass, line, first, endOfStatements(line, first), [&] {
+        const bool outer = pass.textIsTemporary;
+        pass.textIsTemporary = true;
+        readStatements(pass, expanded);
+        pass.textIsTemporary = outer;
+    });
 }
 
 void readMacroLines(Pass& pass, const Macro& macro, const std::vector<std::string>& arguments) {
@@ -230,7 +261,7 @@ void readMacroLines(Pass& pass, const Macro& macro, const std::vector<std::strin
     pass.textIsTemporary = true;
     ++pass.macroDepth;
     while (!rest.empty() && !pass.fileEnded) {
-        if (++pass.knowledge.linesRead > kMostLines) {
+        if (++pass.knowledge.linesRead > pass.options.maxLines) {
             pass.diagnostics.fatal(pass.where, "Macro expansion too long: too many lines come from macros");
         }
         readLine(pass, takeLine(rest));

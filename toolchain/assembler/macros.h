@@ -3,6 +3,7 @@
 #pragma once
 
 #include "assembler/characters.h"
+#include "assembler/name_place.h"
 
 #include <array>
 #include <cstddef>
@@ -21,6 +22,7 @@ struct Macro {
     std::string body;
     bool takesArguments = false;  ///< was defined with parentheses, even empty ones
     bool hasLines = false;        ///< its body is lines of source (#macro), not a piece of a line
+    NamePlace place;
 };
 
 /// All macros of a pass. Names differ in case; a macro that takes arguments is also found in another case

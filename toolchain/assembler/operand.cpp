@@ -5,6 +5,7 @@
 #include "assembler/characters.h"
 #include "assembler/text.h"
 #include "assembler/word_key.h"
+#include "assembler/words.h"
 
 namespace kav::assembler {
 
@@ -131,6 +132,10 @@ Operand fromEnclosed(std::string_view inner) {
 }
 
 }  // namespace
+
+bool isRegisterOrCondition(std::string_view word) {
+    return (fromWord(word).classes & ~std::uint32_t{kValue}) != 0;
+}
 
 Operand classified(std::string_view text) {
     Operand operand;

@@ -6,6 +6,8 @@
 #include "assembler/text.h"
 
 #include <algorithm>
+#include <array>
+#include <span>
 
 namespace kav::assembler {
 
@@ -22,8 +24,14 @@ Pass::Pass(SourceFiles& sourceFiles, const Options& chosen, Knowledge& known, Tu
       options(chosen),
       knowledge(known),
       turn(whichTurn),
-      world{knowledge.symbols,         knowledge.anonymous,      characters, '_', chosen.strict,
-            whichTurn == Turn::kFirst, whichTurn != Turn::kFirst},
+      world{knowledge.symbols,
+            knowledge.anonymous,
+            characters,
+            '_',
+            chosen.strict,
+            whichTurn == Turn::kFirst,
+            whichTurn != Turn::kFirst,
+            chosen.wantSuggestions},
       evaluator(world),
       diagnostics(std::max<std::size_t>(chosen.maxErrors, 1)),
       expander(macros),
@@ -33,7 +41,7 @@ bool Pass::run(const std::string& mainFile) {
     knowledge.symbols.beginPass();
     knowledge.anonymous.beginPass();
     for (const auto& [name, text] : options.defines)
-        macros.define({name, {}, text, false, false});
+        macros.define({name, {}, text, false, false, {}});
     where.file = where.mainFile = &mainFile;
     const FoundSource source = sources.openMain(mainFile);
     if (!source.file)
@@ -52,7 +60,7 @@ void Pass::reportBadValue(const Location& about) {
 }
 
 std::optional<std::int32_t> Pass::valueNow(std::string_view expression) {
-    const Value value = evaluator.evaluate(expression, place());
+    const Value value = evaluator.evaluate(expression, expressionPlace());
     if (value.known()) return value.number;
     if (value.state == Value::kBad) {
         reportBadValue(where);
@@ -71,7 +79,7 @@ void Pass::defineLabel(std::string_view name, std::int32_t value, LabelKind kind
     SymbolTable& symbols = knowledge.symbols;
     const std::uint32_t scope = scopeOf(name);
     if (turn == Turn::kLast) reportUnsettled(name, scope, value, kind);
-    if (symbols.define(name, scope, value, kind) == Definition::kDone) return;
+    if (symbols.define(name, scope, value, kind, place()) == Definition::kDone) return;
     const Label* known = symbols.find(name, scope);
     // Headers that are included together repeat each other's equates.
     const bool repeatsItself = !world.strict && kind == LabelKind::kEquate &&
@@ -109,7 +117,7 @@ void Pass::emitField(FieldKind kind, std::string_view expression) {
 }
 
 void Pass::fillField(FieldKind kind, std::int32_t address, std::string_view expression) {
-    const Value value = evaluator.evaluate(expression, place());
+    const Value value = evaluator.evaluate(expression, expressionPlace());
     switch (value.state) {
         case Value::kKnown: {
             const std::string problem = storeField(image, kind, address, value.number, expression);
@@ -121,7 +129,7 @@ void Pass::fillField(FieldKind kind, std::int32_t address, std::string_view expr
             if (knowledge.symbols.hasVariables()) anotherPassDue_ = true;
             if (fixups_.size() >= kMostFixups)
                 diagnostics.fatal(where, "Range of argument exceeded: too many values");
-            fixups_.push_back({kind, address, kept(expression), place(), where});
+            fixups_.push_back({kind, address, kept(expression), expressionPlace(), where});
             break;
         case Value::kBad:
             reportBadValue(where);
@@ -143,6 +151,16 @@ void Pass::enterModule(std::string_view name) {
     const auto found = std::find_if(moduleNames.begin(), moduleNames.end(), same);
     module = static_cast<std::uint32_t>(found - moduleNames.begin()) + 1;
     if (found == moduleNames.end()) moduleNames.emplace_back(name);
+}
+
+void Pass::addTime(std::int32_t start) {
+    constexpr std::int32_t kLongestInstruction = 4;
+    if (!options.wantOutline) return;
+    std::array<std::uint8_t, kLongestInstruction> bytes{};
+    const std::int32_t count = std::min(location - start, kLongestInstruction);
+    for (std::int32_t i = 0; i < count; ++i)
+        bytes[static_cast<std::size_t>(i)] = image.at(start + i);
+    statementTime += timeOf(std::span(bytes).first(static_cast<std::size_t>(count)));
 }
 
 std::string_view Pass::kept(std::string_view text) {

@@ -12,6 +12,7 @@
 #include "assembler/image.h"
 #include "assembler/listing.h"
 #include "assembler/macros.h"
+#include "assembler/outline.h"
 #include "assembler/symbol_table.h"
 
 #include <cstdint>
@@ -79,6 +80,12 @@ class Pass {
     /// Turns to the module, new or known.
     void enterModule(std::string_view name);
 
+    /// The present line, as the place where something is defined.
+    [[nodiscard]] NamePlace place() const { return {where.file, where.line}; }
+
+    /// Adds the time of the instruction that was written from `start` on.
+    void addTime(std::int32_t start);
+
     /// `text` where it stays until the pass ends.
     std::string_view kept(std::string_view text);
 
@@ -97,6 +104,8 @@ class Pass {
     AddedInstructions addedInstructions;
     Image image;
     std::vector<ListedLine> listed;
+    std::vector<OutlinedStatement> outline;
+    Time statementTime;  ///< of the instructions in the present statement, where an outline is wanted
 
     Location where;                    ///< the line being read
     const SourceFile* file = nullptr;  ///< the file being read
@@ -128,7 +137,7 @@ class Pass {
         std::int32_t address;
     };
 
-    [[nodiscard]] ExpressionPlace place() const {
+    [[nodiscard]] ExpressionPlace expressionPlace() const {
         return {statementStart, module, knowledge.anonymous.forward.size()};
     }
     void reportBadValue(const Location& about);

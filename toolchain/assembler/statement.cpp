@@ -85,6 +85,7 @@ std::string hintAbout(Pass& pass, const Statement& statement) {
         return ", " + shown(statement.label) +
                " in column 1 is taken for a label: put a blank in front of it";
     }
+    if (!pass.options.wantSuggestions) return {};
     NearestWord nearest(statement.operation);
     considerDirectives(nearest, pass.options.strict);
     for (const std::string_view name : mnemonics())
@@ -100,7 +101,7 @@ void reportUnknown(Pass& pass, const Statement& statement) {
     const char first = statement.operation.front();
     if (first == '.') {
         NearestWord nearest(statement.operation);
-        considerDirectives(nearest, true);
+        if (pass.options.wantSuggestions) considerDirectives(nearest, true);
         pass.error("Unrecognized directive: " + shown(statement.operation) + didYouMean(nearest.best()));
     } else if (pass.characters.isNameStart(first)) {
         pass.error("Unrecognized instruction: " + shownName(statement.operation) +

@@ -52,8 +52,8 @@ void SymbolTable::beginPass() {
     }
 }
 
-Definition SymbolTable::define(std::string_view name, std::uint32_t scope, std::int32_t value,
-                               LabelKind kind) {
+Definition SymbolTable::define(std::string_view name, std::uint32_t scope, std::int32_t value, LabelKind kind,
+                               const NamePlace& place) {
     const std::uint32_t hash = hashOf(name, scope);
     const std::size_t slot = slotOf(name, scope, hash);
     if (kind == LabelKind::kVariable) hasVariables_ = true;
@@ -65,6 +65,7 @@ Definition SymbolTable::define(std::string_view name, std::uint32_t scope, std::
         label.hash = hash;
         label.value = value;
         label.kind = kind;
+        label.place = place;
         label.defined = true;
         labels_.push_back(label);
         if (labels_.size() * 2 > slots_.size()) grow();
@@ -75,6 +76,7 @@ Definition SymbolTable::define(std::string_view name, std::uint32_t scope, std::
     if (label.defined && !mayChange) return Definition::kDuplicate;
     label.value = value;
     label.kind = kind;
+    label.place = place;
     label.defined = true;
     return Definition::kDone;
 }

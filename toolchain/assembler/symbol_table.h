@@ -2,6 +2,8 @@
 // The labels of a program and what is known of them from this pass and the one before.
 #pragma once
 
+#include "assembler/name_place.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <deque>
@@ -26,6 +28,7 @@ struct Label {
     std::uint32_t hash = 0;
     std::int32_t value = 0;
     std::int32_t previousValue = 0;
+    NamePlace place;
     LabelKind kind = LabelKind::kAddress;
     bool defined = false;            ///< in this pass, so far
     bool definedPreviously = false;  ///< in the pass before
@@ -44,7 +47,8 @@ class SymbolTable {
     void beginPass();
 
     /// Gives a label its value. A second definition is a duplicate, except that a variable may change.
-    Definition define(std::string_view name, std::uint32_t scope, std::int32_t value, LabelKind kind);
+    Definition define(std::string_view name, std::uint32_t scope, std::int32_t value, LabelKind kind,
+                      const NamePlace& place);
 
     /// The label, or nothing when the name was never defined.
     [[nodiscard]] Label* find(std::string_view name, std::uint32_t scope);
