@@ -52,6 +52,13 @@ bool fits(const fs::path& folder, std::string_view segment) {
     return name == segment || shortFolderName(name) == segment;
 }
 
+/// False for what would lead elsewhere than one step down, whatever the desktop makes of it.
+bool isFolderName(std::string_view segment) {
+    constexpr std::string_view kNoPartOfAName("/\0", 2);
+    return segment != "." && segment != ".." &&
+           segment.find_first_of(kNoPartOfAName) == std::string_view::npos;
+}
+
 bool isFolder(const fs::path& path) {
     std::error_code ignored;
     return fs::is_directory(path, ignored);
@@ -72,7 +79,7 @@ std::vector<fs::path> fittingFolders(const fs::path& parent, std::string_view se
 /// The folder in `parent` that the segment means. `onTheWay`, where it fits, decides between neighbours
 /// that share a short name; it needs no look into the parent, which may be closed to readers.
 fs::path resolveSegment(const fs::path& parent, std::string_view segment, const fs::path& onTheWay) {
-    if (segment == "." || segment == "..") throw notAScript("folder names", segment);
+    if (!isFolderName(segment)) throw notAScript("folder names", segment);
     if (!onTheWay.empty() && fits(onTheWay, segment) && isFolder(onTheWay)) return onTheWay;
     fs::path exact = parent / pathOf(segment);
     if (isFolder(exact)) return exact;

@@ -17,6 +17,8 @@ struct Preferences {
     struct CustomTool {
         std::string name;  ///< empty: the tool is not shown in the menu
         std::string commandLine;
+
+        bool operator==(const CustomTool&) const = default;
     };
 
     std::string fontName;
@@ -32,6 +34,8 @@ struct Preferences {
     double usageSeconds = 0;
     bool surveyAsked = false;
     std::array<std::string, 4> recentFiles;  ///< most recent first; empty: the slot is unused
+
+    bool operator==(const Preferences&) const = default;
 };
 
 /// Reads the file's text. Lines behind the 23rd are ignored. Raises 62, with how many lines are there and

@@ -2,11 +2,10 @@
 // Feeds the assembler with arbitrary sources. The input holds up to three files, with a byte FF between
 // them: the main source and the included files "a.inc" and "b.inc".
 #include "assembler/assembler.h"
+#include "expect.h"
 
-#include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 #include <string>
 #include <string_view>
 
@@ -16,22 +15,17 @@ using kav::assembler::MemorySourceFiles;
 using kav::assembler::Message;
 using kav::assembler::Result;
 
-std::string_view takeFile(std::string_view& rest) {
-    const std::size_t end = std::min(rest.find('\xFF'), rest.size());
-    const std::string_view file = rest.substr(0, end);
-    rest.remove_prefix(std::min(end + 1, rest.size()));
-    return file;
-}
+using kav::fuzz::expect;
 
 /// What holds for every source, whatever it is.
 void check(const Result& result) {
     for (const Message& message : result.messages) {
         const bool echo = message.severity == kav::assembler::Severity::kNote;  // of nothing, perhaps
-        if ((message.text.empty() && !echo) || message.text.find_first_of("\r\n") != std::string::npos)
-            std::abort();
+        expect(!message.text.empty() || echo, "a message says something");
+        expect(message.text.find_first_of("\r\n") == std::string::npos, "a message is one line");
     }
-    if (result.bytes.size() > 0x10000U) std::abort();
-    if (!result.listing.empty() && !result.listing.ends_with("\r\n")) std::abort();
+    expect(result.bytes.size() <= 0x10000U, "a program fits into the address space");
+    expect(result.listing.empty() || result.listing.ends_with("\r\n"), "a listing ends its last line");
 }
 
 }  // namespace
@@ -41,7 +35,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     std::string_view rest = input;
     MemorySourceFiles files;
     for (const char* name : {"main.z80", "a.inc", "b.inc"})
-        files.add(name, std::string(takeFile(rest)));
+        files.add(name, std::string(kav::fuzz::takePart(rest)));
     kav::assembler::Options options;
     options.wantListing = true;
     options.strict = size % 16 == 0;

@@ -98,6 +98,16 @@ TEST_F(ShortPath, FindsNoFilesAndNoMissingFolders) {
     EXPECT_EQ(failureNumberOf([&] { (void)resolved("Tools", "/elsewhere"); }), 5);
 }
 
+TEST_F(ShortPath, LeadsNowhereButDown) {
+    make("Tools/inner");
+    const std::string outside = root_.path().parent_path().string();
+    for (const std::string& line : {std::string("cd\\.\\"), std::string("cd\\Tools\\..\\..\\"),
+                                    "cd\\" + outside + "\\", std::string("cd\\Tools/../..\\"),
+                                    std::string("cd\\Tools/inner\\"), std::string("cd\\Tools\0x\\", 11)}) {
+        EXPECT_EQ(failureNumberOf([&] { (void)resolved(line, "/elsewhere"); }), 5) << line;
+    }
+}
+
 TEST_F(ShortPath, OfTheRootIsTheRoot) {
     EXPECT_EQ(resolved("cd\\", root_.path()), root_.path());
 }

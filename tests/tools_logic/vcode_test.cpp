@@ -3,65 +3,21 @@
 
 #include "runtime/failure.h"
 #include "runtime/lines.h"
+#include "support/told_vcode.h"
 
-#include <cstdio>
 #include <gtest/gtest.h>
 #include <random>
 #include <vector>
 
 namespace kav {
 
+using test::toldVCode;
+
 namespace {
 
 bool neverAsked() {
     ADD_FAILURE() << "asked to truncate";
     return false;
-}
-
-std::string hexadecimal(std::size_t code) {
-    char digits[8];
-    std::snprintf(digits, sizeof digits, "%X", static_cast<unsigned>(code));
-    return digits;
-}
-
-/// The rule as it is told, for ASCII text: every position against all 102 entries in turn. Positions and
-/// entries count from 1.
-std::string toldVCode(const std::string& s, const std::string& separator) {
-    std::vector<std::string> lines(2);
-    std::size_t pairCount = 0;
-    std::size_t lineNumber = 1;
-    std::size_t passes = 0;
-    for (std::size_t i = 1; i <= s.size(); ++i) {
-        if (++passes == 16) {
-            ++lineNumber;
-            lines.emplace_back();
-            passes = 0;
-        }
-        bool found = false;
-        for (std::size_t j = 1; j <= 102; ++j) {
-            if (s.substr(i - 1, 2) != kVCodePairs[j - 1]) continue;
-            ++pairCount;
-            lines[lineNumber] += ",$" + hexadecimal(128 + j);
-            found = true;
-            ++i;
-        }
-        const char character = s[i - 1];
-        for (int code = 65; !found && code <= 123; ++code) {
-            if (code == 92) code = 97;
-            if (character != static_cast<char>(code)) continue;
-            lines[lineNumber] += ",$" + hexadecimal(static_cast<std::size_t>(code));
-            found = true;
-        }
-        if (!found) lines[lineNumber] += std::string(",\"") + character + "\"";
-    }
-    std::string data;
-    for (std::size_t line = 1; line <= lineNumber; ++line) {
-        data += separator + ".db " + lines[line].substr(1) + "\r\n";
-    }
-    return ";Compressed with Corwin Haleby's VCode algorithm\r\n;using KAV Compiler's String Converter.\r\n"
-           ";Origionally " +
-           std::to_string(s.size()) + " bytes, compressed to " + std::to_string(s.size() - pairCount) +
-           " bytes.\r\n" + data.substr(0, data.size() - 2);
 }
 
 std::string converted(std::string_view text) {
@@ -116,7 +72,7 @@ TEST(VCode, HasTheTableThatProgramsUnpackBy) {
     unsigned expectedCode = 0x81;
     for (const auto& [code, pair] : kCodes) {
         EXPECT_EQ(code, expectedCode++);
-        EXPECT_EQ(kVCodePairs[code - 0x81], pair) << "$" << hexadecimal(code);
+        EXPECT_EQ(kVCodePairs[code - 0x81], pair) << test::hexadecimalEntry(code);
     }
 }
 
