@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// kav-viewer: shows a text file, such as a build's listing, without changing it.
+// kav-viewer: shows the help, or a text file such as a build's listing, without changing it.
+#include "platform/desktop/text_conversion.h"
+#include "runtime/failure.h"
+#include "viewer/viewer_window.h"
+
 #include <iostream>
 
 #include <QApplication>
-#include <QFile>
-#include <QFontDatabase>
-#include <QPlainTextEdit>
+#include <QMessageBox>
 
 int main(int argumentCount, char** arguments) {
     QApplication application(argumentCount, arguments);
@@ -13,21 +15,14 @@ int main(int argumentCount, char** arguments) {
         std::cerr << "usage: kav-viewer FILE\n";
         return 2;
     }
-    const QString path = QFile::decodeName(arguments[1]);
-    QPlainTextEdit window;
-    window.setObjectName("Viewer");
-    window.setWindowTitle(path);
-    window.setReadOnly(true);
-    window.setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-    window.setLineWrapMode(QPlainTextEdit::NoWrap);
-    window.resize(760, 480);
-
-    QFile file(path);
-    if (file.open(QIODevice::ReadOnly)) {
-        window.setPlainText(QString::fromUtf8(file.readAll()).remove('\r'));
-    } else {
-        window.setPlainText(path + ": " + file.errorString());
+    const QString path = kav::pathString(arguments[1]);
+    try {
+        const auto window = kav::viewer::windowFor(path);
+        window->show();
+        return QApplication::exec();
+    } catch (const kav::Failure& failure) {
+        QMessageBox::critical(nullptr, "KAV Compiler",
+                              kav::viewer::cannotShow(path, kav::shown(failure.description())));
+        return 1;
     }
-    window.show();
-    return QApplication::exec();
 }
