@@ -93,6 +93,20 @@ TEST(Outline, TellsWhereNamesAreDefined) {
     EXPECT_EQ(symbolOf(result, "far")->value, 0x8000);
 }
 
+TEST(Outline, TellsLocalLabelsFromGlobalOnes) {
+    const Result result = outlined(".module game\n_loop: nop\nend: nop\n");
+    EXPECT_EQ(symbolOf(result, "_loop")->module, "game");
+    EXPECT_EQ(symbolOf(result, "end")->module, "");
+}
+
+TEST(Outline, TellsWhenTheSourceWasNotReadToItsEnd) {
+    EXPECT_FALSE(outlined(" frob\n nop\n").abandoned);
+    std::string source;
+    for (int i = 0; i < 200; ++i)
+        source += " frob\n";
+    EXPECT_TRUE(outlined(source).abandoned);
+}
+
 TEST(Outline, NamesMacrosAndAddedInstructions) {
     const Result result =
         outlined("#include \"names.inc\"\n#define gone 1\n#undef gone\n.addinstr BCALL * EF 3 NOP 1\n");

@@ -17,9 +17,9 @@ std::vector<Symbol> symbolsOf(const Pass& pass) {
     std::vector<Symbol> symbols;
     for (const Label& label : pass.knowledge.symbols.labels()) {
         if (!label.defined) continue;
-        const std::string module = label.scope == 0 ? "" : pass.moduleNames[label.scope - 1] + ".";
-        symbols.push_back({module + std::string(label.name), label.value, label.kind == LabelKind::kAddress,
-                           *label.place.file, label.place.line});
+        symbols.push_back({std::string(label.name), label.scope == 0 ? "" : pass.moduleNames[label.scope - 1],
+                           label.value, label.kind == LabelKind::kAddress, *label.place.file,
+                           label.place.line});
     }
     return symbols;
 }
@@ -60,12 +60,13 @@ Result resultOf(const Pass& pass) {
     return result;
 }
 
-/// True when no further pass is needed or of use.
-bool runPass(Pass& pass, const std::string& mainFile) {
+enum class Outcome { kSettled, kUnsettled, kAbandoned };
+
+Outcome runPass(Pass& pass, const std::string& mainFile) {
     try {
-        return pass.run(mainFile);
+        return pass.run(mainFile) ? Outcome::kSettled : Outcome::kUnsettled;
     } catch (const PassAbandoned&) {
-        return true;
+        return Outcome::kAbandoned;
     }
 }
 
@@ -79,7 +80,11 @@ Result assemble(SourceFiles& sources, const std::string& mainFile, const Options
                                 : last      ? Pass::Turn::kLast
                                             : Pass::Turn::kLater;
         Pass pass(sources, options, knowledge, turn);
-        if (runPass(pass, mainFile) || last) return resultOf(pass);
+        const Outcome outcome = runPass(pass, mainFile);
+        if (outcome == Outcome::kUnsettled && !last) continue;
+        Result result = resultOf(pass);
+        result.abandoned = outcome == Outcome::kAbandoned;
+        return result;
     }
 }
 

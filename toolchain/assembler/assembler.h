@@ -29,7 +29,8 @@ struct Options {
 
 /// A label of the assembled program.
 struct Symbol {
-    std::string name;  ///< "module.name" for a local label
+    std::string name;
+    std::string module;  ///< of a local label, empty for a global one
     std::int32_t value = 0;
     bool isAddress = false;  ///< false for equates and variables
     std::string file;        ///< where it is defined
@@ -48,6 +49,7 @@ struct NamedMacro {
 /// What came out.
 struct Result {
     bool ok = false;                  ///< no errors
+    bool abandoned = false;           ///< the source was not read to its end, as Options bounds it
     std::vector<std::uint8_t> bytes;  ///< from the lowest to the highest address written
     std::uint16_t origin = 0;         ///< the address of the first byte
     std::vector<Message> messages;    ///< in the order of the source

@@ -66,6 +66,7 @@ std::string symbolText(const Result& result) {
     std::string text;
     for (const Symbol& symbol : result.symbols) {
         const auto value = static_cast<std::uint32_t>(symbol.value);
+        if (!symbol.module.empty()) text += symbol.module + ".";
         text += symbol.name + " .equ $";
         for (int shift = value > 0xFFFFU ? 28 : 12; shift >= 0; shift -= 4) {
             text += kDigits[(value >> static_cast<unsigned>(shift)) & 0xFU];
