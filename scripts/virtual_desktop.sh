@@ -2,10 +2,15 @@
 # Functions for driving the program in a display of its own: start it, press keys, wait for windows, take
 # pictures. Sourced by the front door and by the acceptance journeys.
 
-# start_desktop [WIDTHxHEIGHT]: a display with a window manager, ended with the calling script.
+# start_desktop [WIDTHxHEIGHT]: a display with a window manager and a home of its own, ended with the calling
+# script.
 start_desktop() {
     local size=${1:-1280x900} pipe number
     desktop_folder=$(mktemp -d)
+    # What the program keeps for its user touches nobody's real home.
+    export HOME=$desktop_folder/home
+    mkdir -p "$HOME"
+    unset XDG_CONFIG_HOME XDG_DATA_HOME XDG_CACHE_HOME XDG_DESKTOP_DIR windir
     pipe=$desktop_folder/display
     mkfifo "$pipe"
     # The server picks a free display number and tells it when it is ready.
@@ -20,6 +25,23 @@ start_desktop() {
 }
 
 window_manager_runs() { xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id'; }
+
+# bind_no_keys: from now on the window manager answers Alt+F4 and nothing else.
+bind_no_keys() {
+    mkdir -p "$HOME/.config/openbox"
+    cat >"$HOME/.config/openbox/rc.xml" <<'CONFIGURATION'
+<openbox_config xmlns="http://openbox.org/3.4/rc">
+  <focus><focusNew>yes</focusNew></focus>
+  <keyboard><keybind key="A-F4"><action name="Close"/></keybind></keyboard>
+  <mouse>
+    <context name="Client">
+      <mousebind button="Left" action="Press"><action name="Focus"/><action name="Raise"/></mousebind>
+    </context>
+  </mouse>
+</openbox_config>
+CONFIGURATION
+    openbox --reconfigure
+}
 
 stop_desktop() {
     [ -z "${program:-}" ] || kill "$program" 2>/dev/null || true

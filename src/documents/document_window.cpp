@@ -12,8 +12,10 @@
 #include "runtime/number_text.h"
 #include "shell/trapped.h"
 
+#include <QAction>
 #include <QCloseEvent>
 #include <QMdiArea>
+#include <QMenu>
 
 namespace kav {
 
@@ -23,12 +25,24 @@ namespace {
 constexpr int kFrameHeightTwips = 450;
 constexpr int kFrameWidthTwips = 100;
 
+/// Ctrl+F4 closes a document, whatever else the desktop closes one with.
+void addClosingKey(QMenu& systemMenu) {
+    const QList<QKeySequence> desktops = QKeySequence::keyBindings(QKeySequence::Close);
+    const QKeySequence key("Ctrl+F4");
+    if (desktops.contains(key)) return;
+    for (QAction* action : systemMenu.actions()) {
+        if (!desktops.isEmpty() && action->shortcuts().contains(desktops.front()))
+            action->setShortcuts(desktops + QList{key});
+    }
+}
+
 }  // namespace
 
 Doc::Doc(Workspace& workspace) : workspace_(workspace), client_(new QWidget), txt_(new TextBox(client_)) {
     setObjectName("Doc");
     setAttribute(Qt::WA_DeleteOnClose);
     setWidget(client_);
+    addClosingKey(*systemMenu());
     client_->setFocusProxy(txt_);
     txt_->setTextFont(workspace.values().fontName, workspace.values().fontSize);
     aids_ = std::make_unique<DocumentAids>(*this, workspace);

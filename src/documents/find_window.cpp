@@ -57,7 +57,6 @@ QLineEdit* find::addBox(const char* name) {
 QPushButton* find::addButton(const char* name, const char* caption, void (find::*handler)()) {
     auto* button = new QPushButton(caption, this);
     button->setObjectName(name);
-    button->setAutoDefault(false);
     connect(button, &QPushButton::clicked, this, handler);
     return button;
 }
@@ -69,10 +68,8 @@ void find::layOut() {
     Label2->setObjectName("Label2");
     auto* Command1 = addButton("Command1", "Find", &find::Command1_Click);
     Command1->setDefault(true);
-    auto* Command3 = new QPushButton("Cancel", this);
-    Command3->setObjectName("Command3");
-    Command3->setAutoDefault(false);
-    connect(Command3, &QPushButton::clicked, this, &QWidget::close);
+    auto* Command2 = addButton("Command2", "Replace All", &find::Command2_Click);
+    auto* Command3 = addButton("Command3", "Cancel", &find::Command3_Click);
 
     auto* grid = new QGridLayout(this);
     grid->addWidget(Label1, 0, 0);
@@ -80,7 +77,7 @@ void find::layOut() {
     grid->addWidget(Command1, 0, 2);
     grid->addWidget(Label2, 1, 0);
     grid->addWidget(rep, 1, 1);
-    grid->addWidget(addButton("Command2", "Replace All", &find::Command2_Click), 1, 2);
+    grid->addWidget(Command2, 1, 2);
     grid->addWidget(cse, 2, 1);
     grid->addWidget(Command3, 2, 2);
     grid->addWidget(addButton("Command4", "Reset", &find::Command4_Click), 3, 2);
@@ -103,6 +100,10 @@ void find::Command1_Click() {
 
 void find::Command2_Click() {
     quietly([this] { replaceEveryMatch(); });
+}
+
+void find::Command3_Click() {
+    close();
 }
 
 void find::Command4_Click() {

@@ -26,6 +26,7 @@ class find : public QDialog {
   private:
     void Command1_Click();
     void Command2_Click();
+    void Command3_Click();
     void Command4_Click();
 
     void findNext();

@@ -59,3 +59,31 @@ save_program() {
 }
 
 preference_line() { sed -n "${1}p" "$application/prefs.ini" | tr -d '\r'; }
+
+# no_first_run: the preferences of a program that ran before.
+no_first_run() {
+    sed -i '16s/1/0/' "$application/prefs.ini"
+    mkdir -p "$application/Projects"
+}
+
+# read_window [GEOMETRY]: the words that the window with the keyboard shows, there or all over, as an eye would
+# read them off the screen.
+read_window() {
+    import -window "$(xdotool getactivewindow)" "$desktop_folder/window.png"
+    convert "$desktop_folder/window.png" ${1:+-crop "$1" +repage} -colorspace Gray -resize 300% "$desktop_folder/read.png"
+    tesseract "$desktop_folder/read.png" - --psm 6 2>>"$desktop_folder/read.log"
+}
+
+# legible TEXT: its letters and digits as an eye may take them that mixes up those that look alike.
+legible() { tr -cd '[:alnum:]' <<<"$1" | tr '[:upper:]' '[:lower:]' | tr -s 'yi1t0' 'vllfo'; }
+
+# shows TEXT [GEOMETRY]: whether the window with the keyboard shows it, there or anywhere.
+shows() { [[ "$(legible "$(read_window ${2:+"$2"})")" == *"$(legible "$1")"* ]]; }
+
+# expect_shown TEXT [GEOMETRY]: fails when the window does not come to show it.
+expect_shown() { wait_until 5 shows "$@" || fail "'$1' is not shown, but: $(read_window ${2:+"$2"})"; }
+
+# expect_file FILE TEXT: the file holds this text, byte for byte.
+expect_file() {
+    cmp "$1" <(printf %s "$2") || fail "$1 holds: $(od -c "$1")"
+}

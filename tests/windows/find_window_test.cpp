@@ -160,6 +160,23 @@ TEST_F(FindWindow, ItsTextBoxesKeepTheirOwnKeys) {
     EXPECT_EQ(txt().bytes(), "text");
 }
 
+TEST_F(FindWindow, EnterPressesTheButtonThatHasTheKeyboardAndFindsOtherwise) {
+    window()->activateWindow();
+    ASSERT_TRUE(QTest::qWaitFor([this] { return QApplication::activeWindow() == window(); }));
+    search("abab", "ab", "c");
+    box("find").setFocus();
+    QTest::keyClick(&box("find"), Qt::Key_Return);
+    EXPECT_EQ(selection(), (Selection{0, 2}));
+    window()->activateWindow();
+    box("rep").setFocus();
+    for (const char* name : {"cse", "Command1", "Command2"}) {
+        QTest::keyClick(window()->focusWidget(), Qt::Key_Tab);
+        EXPECT_EQ(window()->focusWidget()->objectName(), name);
+    }
+    QTest::keyClick(window()->focusWidget(), Qt::Key_Return);
+    EXPECT_EQ(txt().bytes(), "abc");
+}
+
 TEST_F(FindWindow, CancelClosesItAndTheNextOneStartsAtTheTop) {
     search("abab", "ab");
     press("Command1");

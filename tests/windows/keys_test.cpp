@@ -51,6 +51,13 @@ TEST_F(Keys, CtrlDDuplicatesNoLine) {
     EXPECT_EQ(active().txt().bytes(), "one");
 }
 
+TEST_F(Keys, CtrlF4ClosesTheDocument) {
+    choose("newasm");
+    ASSERT_EQ(documents().size(), 2U);
+    press(Qt::Key_F4, Qt::ControlModifier);
+    EXPECT_EQ(compiler().values().openDocuments, 1);
+}
+
 TEST_F(Keys, DeleteInTheTaskListRemovesATaskAndNoCharacter) {
     active().txt().setBytes("text");
     dbgr& list = compiler().taskList();
