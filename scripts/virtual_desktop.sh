@@ -7,10 +7,10 @@
 start_desktop() {
     local size=${1:-1280x900} pipe number
     desktop_folder=$(mktemp -d)
-    # What the program keeps for its user touches nobody's real home.
+    # What the program keeps for its user and publishes to the desktop touches nobody's real home.
     export HOME=$desktop_folder/home
-    mkdir -p "$HOME"
-    unset XDG_CONFIG_HOME XDG_DATA_HOME XDG_CACHE_HOME XDG_DESKTOP_DIR windir
+    mkdir "$HOME"
+    unset XDG_DATA_HOME XDG_CONFIG_HOME XDG_CACHE_HOME XDG_DATA_DIRS XDG_CONFIG_DIRS windir
     pipe=$desktop_folder/display
     mkfifo "$pipe"
     # The server picks a free display number and tells it when it is ready.

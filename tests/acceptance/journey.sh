@@ -22,11 +22,6 @@ sed '16s/1/0/' "$project/packaging/prefs.ini" >"$application/prefs.ini"
 documents="$desktop_folder/documents"
 mkdir -p "$documents"
 
-# What the program keeps for its user and publishes to the desktop stays within the journey.
-export HOME=$desktop_folder/home
-mkdir "$HOME"
-unset XDG_DATA_HOME XDG_CONFIG_HOME XDG_CACHE_HOME XDG_DATA_DIRS XDG_CONFIG_DIRS
-
 # begin_first_run: the application folder as it is installed.
 begin_first_run() {
     rm -rf "$application/Projects"
@@ -59,12 +54,6 @@ save_program() {
 }
 
 preference_line() { sed -n "${1}p" "$application/prefs.ini" | tr -d '\r'; }
-
-# no_first_run: the preferences of a program that ran before.
-no_first_run() {
-    sed -i '16s/1/0/' "$application/prefs.ini"
-    mkdir -p "$application/Projects"
-}
 
 # read_window [GEOMETRY]: the words that the window with the keyboard shows, there or all over, as an eye would
 # read them off the screen.

@@ -4,7 +4,6 @@
 # and opens it again.
 . "$(dirname "$0")/journey.sh"
 
-no_first_run
 printf 'start:\r\n;x x\r\n ld a,0\r\n LD b,1\r\n ld c,2\r\n cp 0\r\n ret' >"$application/Projects/game.kvf"
 printf ' ret' >"$application/Projects/another.kvf"
 start_program

@@ -20,8 +20,7 @@ bind_no_keys
 
 # Each run begins with the same folder, so that its seed repeats it: a recent file, a tool, and sources of
 # several kinds.
-mkdir "$application/Projects"
-sed -i "10s/.*/Nothing\r/; 11s/.*/true\r/; 16s/1/0/; 20s|.*|$application/Projects/hello.z80\r|" "$application/prefs.ini"
+sed -i "10s/.*/Nothing\r/; 11s/.*/true\r/; 20s|.*|$application/Projects/hello.z80\r|" "$application/prefs.ini"
 cp "$project/examples/hello.z80" "$application/Projects/hello.z80"
 printf 'a\0b\r\n\377\376 caf\303\251\nlone\rends' >"$application/Projects/bytes.txt"
 : >"$application/Projects/empty.kvf"
