@@ -25,7 +25,8 @@ void Ledger::look(Compiler& compiler) {
         if (!entries_.contains(document)) open(*document);
         if (!document->isHidden()) audit(*document, entries_.at(document));
     }
-    active_ = compiler.activeDocument();
+    // While a dialog asks, the document that it asks about stays the same.
+    if (QApplication::activeModalWidget() == nullptr) active_ = compiler.activeDocument();
     if (compiler.values().openDocuments != count) {
         losses_.push_back("the program counts " + std::to_string(compiler.values().openDocuments) +
                           " documents where there are " + std::to_string(count));
