@@ -17,10 +17,18 @@ add_custom_command(
     DEPENDS ${KAV_INCLUDE_FILES} ${KAV_EXAMPLE_FILES} ${KAV_SCRIPT} ${KAV_FIRST_PREFERENCES}
     COMMENT "Filling the application folder"
     VERBATIM)
-add_custom_target(kav_application_folder ALL DEPENDS ${KAV_APP_DIR}/copied.stamp)
+
+set(KAV_LARGEST_ICON ${KAV_APP_DIR}/icons/hicolor/256x256/apps/kav-compiler.png)
+add_custom_command(
+    OUTPUT ${KAV_LARGEST_ICON}
+    COMMAND draw_icons ${KAV_APP_DIR}/icons/hicolor
+    COMMENT "Drawing the icon"
+    VERBATIM)
+
+add_custom_target(kav_application_folder ALL DEPENDS ${KAV_APP_DIR}/copied.stamp ${KAV_LARGEST_ICON})
 
 set(KAV_INSTALL_DIR ${CMAKE_INSTALL_LIBDIR}/kav-compiler)
-install(TARGETS kav-compiler kav-viewer kav-asm DESTINATION ${KAV_INSTALL_DIR})
+install(TARGETS kav-compiler kav-viewer kav-asm unregister-file-types DESTINATION ${KAV_INSTALL_DIR})
 install(PROGRAMS ${KAV_SCRIPT} DESTINATION ${KAV_INSTALL_DIR})
 install(FILES ${KAV_FIRST_PREFERENCES} DESTINATION ${KAV_INSTALL_DIR})
 install(FILES ${KAV_INCLUDE_FILES} DESTINATION ${KAV_INSTALL_DIR}/include)

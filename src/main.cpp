@@ -7,6 +7,7 @@
 #include "platform/desktop/text_conversion.h"
 #include "platform/linux/linux_class_registry.h"
 #include "platform/linux/linux_launcher.h"
+#include "platform/published_class.h"
 #include "runtime/failure.h"
 #include "shell/application.h"
 #include "shell/main_window.h"
@@ -26,9 +27,18 @@ std::string commandLineOf(int argumentCount, char** arguments) {
     return line;
 }
 
+/// Whether the desktop's "Compile" has started the program. Programs that are started from here are not asked
+/// the same.
+bool takeCompileRequest() {
+    const bool requested = qgetenv(kav::kCompileVariable) == "1";
+    qunsetenv(kav::kCompileVariable);
+    return requested;
+}
+
 }  // namespace
 
 int main(int argumentCount, char** arguments) {
+    const bool compile = takeCompileRequest();
     // The toolkit takes its own options out of the line first.
     kav::Application application(argumentCount, arguments);
     const kav::ApplicationFolder folder(kav::pathBytes(QCoreApplication::applicationDirPath()));
@@ -39,12 +49,13 @@ int main(int argumentCount, char** arguments) {
     kav::SystemClock clock;
     kav::SeededRandomNumbers random;
     kav::DesktopEnvironment environment;
-    kav::LinuxClassRegistry registry(kav::LinuxClassRegistry::userFile());
+    kav::LinuxClassRegistry registry(kav::UserFolders::ofUser());
     try {
         kav::Compiler compiler(
             {boxes, fileChooser, launcher, clipboard, clock, random, environment, registry}, folder);
         compiler.show();
         compiler.load(commandLineOf(argumentCount, arguments));
+        if (compile) compiler.compileOnceUp();
         return kav::Application::exec();
     } catch (const kav::Failure& failure) {
         kav::Application::endWithFailure(failure.description());

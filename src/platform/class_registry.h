@@ -20,6 +20,9 @@ class ClassRegistry {
 
     /// Sets the default value of a key that is there; a key that is missing stays missing.
     virtual void setDefaultValue(const std::string& key, const std::string& value) = 0;
+
+    /// Tells the desktop, once a series of changes is done, that file classes have changed.
+    virtual void announceChanges() {}
 };
 
 }  // namespace kav

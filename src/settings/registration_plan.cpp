@@ -17,12 +17,12 @@ struct KeyValue {
 /// The keys of the source class in the order they are written.
 std::array<KeyValue, 4> classKeys(std::string_view applicationFolder) {
     const std::string name(kSourceClass);
-    const std::string program = std::string(applicationFolder) + "\\KAV Compiler.exe";
+    const std::string program = std::string(applicationFolder) + std::string(kRegisteredProgram);
     return {{
         {name, "Z80 Assembly Source"},
         {name + "\\DefaultIcon", program + ",1"},
-        {name + "\\shell\\open\\command", program + " %1"},
-        {name + "\\shell\\Compile\\command", program + " %1 &"},
+        {name + std::string(kOpenCommandKey), program + " %1"},
+        {name + std::string(kCompileCommandKey), program + " %1 &"},
     }};
 }
 

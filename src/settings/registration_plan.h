@@ -2,15 +2,14 @@
 // Which keys of the desktop's class registry the registration dialog writes.
 #pragma once
 
+#include "platform/source_class.h"
+
 #include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace kav {
-
-/// The class that source files belong to.
-inline constexpr std::string_view kSourceClass = "Z80AsmSrc";
 
 /// The dialog's note; its misspelling and missing blank belong to it.
 inline constexpr std::string_view kRegistrationNote =

@@ -68,6 +68,7 @@ void reg::Command1_Click() {
             registry_.setDefaultValue(step.key, step.value);
         }
     }
+    if (!steps.empty()) registry_.announceChanges();
     accept();
 }
 

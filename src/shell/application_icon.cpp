@@ -7,17 +7,17 @@
 
 namespace kav {
 
-namespace {
-
-/// Drawn on a grid of 16 by 16, so that its edges are sharp at every multiple.
-QPixmap drawnIcon(int size) {
-    QPixmap picture(size, size);
+QImage applicationPicture(int size) {
+    QImage picture(size, size, QImage::Format_ARGB32_Premultiplied);
     picture.fill(Qt::transparent);
     QPainter painter(&picture);
+    // Drawn on a grid of 16 by 16, so that its edges are sharp at every multiple.
     painter.scale(size / 16.0, size / 16.0);
     painter.setPen(Qt::NoPen);
     painter.setBrush(QColor(44, 52, 64));
+    painter.setRenderHint(QPainter::Antialiasing);
     painter.drawRoundedRect(QRectF(2, 0, 12, 16), 2, 2);
+    painter.setRenderHint(QPainter::Antialiasing, false);
     painter.fillRect(QRectF(4, 2, 8, 5), QColor(158, 184, 132));
     for (int row = 0; row < 3; ++row) {
         for (int column = 0; column < 3; ++column) {
@@ -28,12 +28,10 @@ QPixmap drawnIcon(int size) {
     return picture;
 }
 
-}  // namespace
-
 QIcon applicationIcon() {
     QIcon icon;
-    for (const int size : {16, 32, 48, 64, 128})
-        icon.addPixmap(drawnIcon(size));
+    for (const int size : kIconSizes)
+        icon.addPixmap(QPixmap::fromImage(applicationPicture(size)));
     return icon;
 }
 

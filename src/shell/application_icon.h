@@ -3,10 +3,17 @@
 #pragma once
 
 #include <QIcon>
+#include <QImage>
 
 namespace kav {
 
-/// A calculator with a green screen, drawn at every size that desktops ask for.
+/// The sizes that desktops ask for, in pixels.
+inline constexpr int kIconSizes[] = {16, 32, 48, 64, 128, 256};
+
+/// A calculator with a green screen, `size` pixels wide and high.
+[[nodiscard]] QImage applicationPicture(int size);
+
+/// That picture in all sizes.
 [[nodiscard]] QIcon applicationIcon();
 
 }  // namespace kav

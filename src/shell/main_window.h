@@ -46,6 +46,9 @@ class Compiler : public QMainWindow, public Workspace {
     /// one or an empty document. A failure leaves as Failure; nothing has been written then.
     void load(const std::string& commandLine);
 
+    /// Chooses Compile once the window is up.
+    void compileOnceUp();
+
     Platform& platform() override { return platform_; }
     const ApplicationFolder& applicationFolder() const override { return applicationFolder_; }
     SharedValues& values() override { return values_; }

@@ -11,6 +11,7 @@
 #include "shell/start_up_refusal.h"
 
 #include <QAction>
+#include <QTimer>
 
 namespace kav {
 
@@ -38,6 +39,10 @@ void Compiler::load(const std::string& commandLine) {
         openCommandLine(commandLine);
     }
     if (preferences_.easterEggs) showDateNotices();
+}
+
+void Compiler::compileOnceUp() {
+    QTimer::singleShot(0, menuItem("comp"), &QAction::trigger);
 }
 
 void Compiler::readPreferences() {

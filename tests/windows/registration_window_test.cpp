@@ -26,7 +26,7 @@ class Registration : public testing::Test {
     std::string value(const std::string& key) { return registry_.defaultValue(key); }
 
     TemporaryFolder folder_;
-    LinuxClassRegistry registry_{folder_.file("data/file-classes")};
+    LinuxClassRegistry registry_{UserFolders{folder_.file("data"), folder_.file("settings")}};
 };
 
 TEST_F(Registration, ShowsItsNoteAndWhatIsRegistered) {
@@ -52,6 +52,16 @@ TEST_F(Registration, TickingAsmRegistersKvf) {
     EXPECT_EQ(value(".asm"), "");
 }
 
+TEST_F(Registration, OkTellsTheDesktopAndCancelDoesNot) {
+    const std::string entry = folder_.file("data/applications/kav-compiler.desktop");
+    reg dialog(registry_, "/opt/kav", nullptr);
+    dialog.findChild<QCheckBox*>("kvf")->setChecked(true);
+    press(dialog, "Command2");
+    EXPECT_FALSE(fileExists(entry));
+    tickAndOk({"kvf"});
+    EXPECT_TRUE(fileExists(entry));
+}
+
 TEST_F(Registration, AnAssociatedAsmStopsEveryExtension) {
     registry_.createKey(".asm");
     registry_.setDefaultValue(".asm", "Z80AsmSrc");
@@ -65,7 +75,7 @@ TEST_F(Registration, TickingNothingOrCancelWritesNothing) {
     reg dialog(registry_, "/opt/kav", nullptr);
     dialog.findChild<QCheckBox*>("kvf")->setChecked(true);
     press(dialog, "Command2");
-    EXPECT_FALSE(fileExists(folder_.file("data/file-classes")));
+    EXPECT_FALSE(fileExists(folder_.file("data")));
 }
 
 TEST_F(Registration, AKeyThatIsMissingIsNotSet) {

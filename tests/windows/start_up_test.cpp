@@ -179,6 +179,17 @@ TEST_F(StartUp, DateNoticesNeedTheirSwitch) {
     EXPECT_EQ(desktop_.boxes.shownBoxes[0].icon, BoxIcon::Exclamation);
 }
 
+TEST_F(StartUp, CompilesTheFileOnceTheWindowIsUpWhenAskedTo) {
+    writeFile(folder_.file("a.z80"), " ret");
+    start(folder_.file("a.z80")).compileOnceUp();
+    EXPECT_TRUE(desktop_.boxes.askedBoxes.empty());
+    desktop_.boxes.typed = {"prog"};
+    QCoreApplication::processEvents();
+    ASSERT_EQ(desktop_.boxes.askedBoxes.size(), 1U);
+    EXPECT_EQ(desktop_.boxes.askedBoxes[0].title, "Compile Program");
+    EXPECT_TRUE(readFile(folder_.file("prog.z80")).ends_with(" ret\r\n"));
+}
+
 TEST_F(StartUp, CustomToolsAreShownByNameAndHiddenWithoutOne) {
     preferences_.customTools[1] = {"Salt & Pepper", "pepper"};
     start();

@@ -1,22 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The registry of file classes on Linux: a file of the user's.
+// The registry of file classes on Linux: a file of the user's, published to the desktop.
 #include "platform/linux/linux_class_registry.h"
 
-#include "platform/desktop/text_conversion.h"
 #include "runtime/failure.h"
 #include "runtime/files.h"
 
+#include <exception>
 #include <filesystem>
 #include <sstream>
 
-#include <QStandardPaths>
-
 namespace kav {
-
-std::string LinuxClassRegistry::userFile() {
-    return pathBytes(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation)) +
-           "/kav-compiler/file-classes";
-}
 
 std::string LinuxClassRegistry::readable() const {
     try {
@@ -71,6 +64,28 @@ void LinuxClassRegistry::setDefaultValue(const std::string& key, const std::stri
     if (found == keys.end()) return;
     found->second = value;
     write(keys);
+}
+
+void LinuxClassRegistry::announceChanges() {
+    const auto sources = publishedClass(read());
+    if (!sources) return;
+    try {
+        publication_.publish(*sources);
+    } catch (const std::exception&) {
+        // As above: a desktop that cannot be told is passed over.
+        return;
+    }
+}
+
+std::vector<std::string> LinuxClassRegistry::withdraw() {
+    std::vector<std::string> files = publication_.withdraw();
+    if (fileExists(path_)) {
+        removeFile(path_);
+        files.push_back(path_);
+        std::error_code notEmpty;
+        std::filesystem::remove(pathOf(path_).parent_path(), notEmpty);
+    }
+    return files;
 }
 
 }  // namespace kav

@@ -32,7 +32,7 @@ int useProgram(const std::string& applicationFolder, unsigned seed, int seconds)
     kav::SystemClock clock;
     kav::SeededRandomNumbers random;
     kav::DesktopEnvironment environment;
-    kav::LinuxClassRegistry registry(kav::LinuxClassRegistry::userFile());
+    kav::LinuxClassRegistry registry(kav::UserFolders::ofUser());
     kav::Compiler compiler({boxes, fileChooser, launcher, clipboard, clock, random, environment, registry},
                            folder);
     kav::test::Monkey monkey(compiler, ledger, seed, seconds);
