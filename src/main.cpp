@@ -7,6 +7,7 @@
 #include "platform/desktop/text_conversion.h"
 #include "platform/linux/linux_class_registry.h"
 #include "platform/linux/linux_launcher.h"
+#include "platform/linux/users_folder.h"
 #include "platform/published_class.h"
 #include "runtime/failure.h"
 #include "shell/application.h"
@@ -35,13 +36,23 @@ bool takeCompileRequest() {
     return requested;
 }
 
+kav::ApplicationFolder applicationFolder() {
+    try {
+        return kav::ApplicationFolder(
+            kav::applicationFolderFor(kav::pathBytes(QCoreApplication::applicationDirPath()),
+                                      kav::UserFolders::ofUser().programData()));
+    } catch (const kav::Failure& failure) {
+        kav::Application::endWithFailure(failure.description());
+    }
+}
+
 }  // namespace
 
 int main(int argumentCount, char** arguments) {
     const bool compile = takeCompileRequest();
     // The toolkit takes its own options out of the line first.
     kav::Application application(argumentCount, arguments);
-    const kav::ApplicationFolder folder(kav::pathBytes(QCoreApplication::applicationDirPath()));
+    const kav::ApplicationFolder folder = applicationFolder();
     kav::DesktopBoxes boxes;
     kav::DesktopFileChooser fileChooser;
     kav::LinuxLauncher launcher(folder);
