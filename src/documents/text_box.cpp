@@ -54,6 +54,12 @@ std::string TextBox::bytes() const {
     return text;
 }
 
+std::string TextBox::bytesBetween(std::size_t start, std::size_t end) const {
+    std::string text(end - start, '\0');
+    SendScintilla(SCI_GETTEXTRANGE, static_cast<long>(start), static_cast<long>(end), text.data());
+    return text;
+}
+
 std::size_t TextBox::byteLength() const {
     return static_cast<std::size_t>(SendScintilla(SCI_GETLENGTH));
 }

@@ -28,6 +28,9 @@ class TextBox : public QsciScintilla {
     /// Length of the text in bytes.
     [[nodiscard]] std::size_t byteLength() const;
 
+    /// The bytes from `start` up to but not including `end`; both lie within the text.
+    [[nodiscard]] std::string bytesBetween(std::size_t start, std::size_t end) const;
+
     /// Replaces the whole text. There is no undo back into the text before.
     void setBytes(std::string_view text);
 

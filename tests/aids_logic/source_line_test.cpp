@@ -30,6 +30,9 @@ TEST(SourceLine, IsLabelOperationOperandsAndComment) {
     EXPECT_EQ(pieces("loop djnz loop"), "label[loop] op[djnz] name[loop]");
     EXPECT_EQ(pieces(" here: nop"), "label[here] op[nop]");
     EXPECT_EQ(pieces("\tret"), "op[ret]");
+    EXPECT_EQ(pieces("put(a)"), "op[put] name[a]") << "a macro's call defines nothing";
+    EXPECT_EQ(pieces("- djnz -"), "op[djnz]") << "a label without a name";
+    EXPECT_EQ(pieces("+:ret"), "op[ret]");
     EXPECT_EQ(pieces(""), "");
     EXPECT_EQ(pieces(" ; only"), "rem[; only]");
 }
@@ -62,6 +65,7 @@ TEST(SourceLine, KnowsWhatFollowsAHash) {
     EXPECT_EQ(pieces("#define put(x,y) ld a,x \\ ld b,y"),
               "hash[#define] label[put] name[x] name[y] op[ld] name[a] name[x] op[ld] name[b] name[y]");
     EXPECT_EQ(pieces("#define equ .equ"), "hash[#define] label[equ] dir[.equ]");
+    EXPECT_EQ(pieces("#macro put(x)"), "hash[#macro] label[put] name[x]");
     EXPECT_EQ(pieces("#"), "hash[#]");
     EXPECT_EQ(pieces("#define p(x"), "hash[#define] label[p] name[x]");
 }

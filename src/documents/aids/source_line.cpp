@@ -48,7 +48,9 @@ class LineSplitter {
         if (!atEnd() && here() == '#') {
             readHashDirective();
         } else {
-            readLabel(cursor_ == begin);
+            const bool inFirstColumn = cursor_ == begin;
+            if (inFirstColumn) skipAnonymousLabel();
+            readLabel(inFirstColumn && cursor_ == begin);
             readOperation();
         }
         readOperands();
@@ -64,11 +66,22 @@ class LineSplitter {
         }
     }
 
+    /// A + or - that stands alone in column 1 is a label without a name.
+    void skipAnonymousLabel() {
+        if (atEnd() || (here() != '+' && here() != '-')) return;
+        const char next = cursor_ + 1 < line_.size() ? line_[cursor_ + 1] : ' ';
+        if (next != ':' && !kCharacters.isBlank(next)) return;
+        cursor_ += next == ':' ? 2 : 1;
+        skipBlanks();
+    }
+
     void readLabel(bool inFirstColumn) {
         if (!atNameStart()) return;
         const std::size_t end = kCharacters.endOfName(line_, cursor_);
         const bool colon = end < line_.size() && line_[end] == ':';
-        if (!inFirstColumn && !colon) return;
+        // A macro that is called with parentheses may stand in column 1, too.
+        const bool call = end < line_.size() && line_[end] == '(';
+        if (!colon && (!inFirstColumn || call)) return;
         takeName(PieceKind::Label);
         if (colon) ++cursor_;
         skipBlanks();
@@ -93,6 +106,8 @@ class LineSplitter {
             readFileName();
         } else if (equalIgnoringCase(name, "define")) {
             readDefinition();
+        } else if (equalIgnoringCase(name, "macro") && atNameStart()) {
+            takeName(PieceKind::Label);
         }
     }
 

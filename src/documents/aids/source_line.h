@@ -10,7 +10,7 @@ namespace kav {
 
 /// What a piece of a line is, as far as its place in the line tells.
 enum class PieceKind {
-    Label,          ///< a name that the line defines: in column 1, in front of a colon, or behind #define
+    Label,  ///< a name that the line defines: in column 1, in front of a colon, or behind #define or #macro
     Operation,      ///< the word that a statement begins with
     Directive,      ///< such a word with its period
     HashDirective,  ///< a # and the word behind it
