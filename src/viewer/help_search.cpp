@@ -87,6 +87,7 @@ std::vector<SearchHit> searchBook(const HelpBook& book, std::string_view words) 
     }
     std::stable_sort(ranked.begin(), ranked.end(), ranksBefore);
     std::vector<SearchHit> hits;
+    hits.reserve(ranked.size());
     for (RankedHit& one : ranked)
         hits.push_back(std::move(one.hit));
     return hits;
