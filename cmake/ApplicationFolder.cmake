@@ -25,11 +25,23 @@ add_custom_command(
     COMMENT "Drawing the icon"
     VERBATIM)
 
-add_custom_target(kav_application_folder ALL DEPENDS ${KAV_APP_DIR}/copied.stamp ${KAV_LARGEST_ICON})
+# The help file. A link or a picture of a page that leads nowhere ends the build.
+file(GLOB KAV_HELP_PAGES CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/docs/help/*.html
+     ${PROJECT_SOURCE_DIR}/docs/help/pictures/*.png)
+set(KAV_HELP_FILE ${KAV_APP_DIR}/kavhelp.hlp)
+add_custom_command(
+    OUTPUT ${KAV_HELP_FILE}
+    COMMAND kav-make-help ${PROJECT_SOURCE_DIR}/docs/help ${KAV_HELP_FILE}
+    DEPENDS ${KAV_HELP_PAGES}
+    COMMENT "Making the help file"
+    VERBATIM)
+
+add_custom_target(kav_application_folder ALL
+                  DEPENDS ${KAV_APP_DIR}/copied.stamp ${KAV_LARGEST_ICON} ${KAV_HELP_FILE})
 
 set(KAV_INSTALL_DIR ${CMAKE_INSTALL_LIBDIR}/kav-compiler)
 install(TARGETS kav-compiler kav-viewer kav-asm unregister-file-types DESTINATION ${KAV_INSTALL_DIR})
 install(PROGRAMS ${KAV_SCRIPT} DESTINATION ${KAV_INSTALL_DIR})
-install(FILES ${KAV_FIRST_PREFERENCES} DESTINATION ${KAV_INSTALL_DIR})
+install(FILES ${KAV_FIRST_PREFERENCES} ${KAV_HELP_FILE} DESTINATION ${KAV_INSTALL_DIR})
 install(FILES ${KAV_INCLUDE_FILES} DESTINATION ${KAV_INSTALL_DIR}/include)
 install(FILES ${KAV_EXAMPLE_FILES} DESTINATION ${KAV_INSTALL_DIR}/examples)

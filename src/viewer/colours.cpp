@@ -18,7 +18,11 @@ bool isDark(const QPalette& palette) {
 }  // namespace
 
 QColor errorBackground(const QPalette& palette) {
-    return mixed(palette.color(QPalette::Base), Qt::red, isDark(palette) ? 0.40 : 0.22);
+    return mixed(palette.color(QPalette::Base), Qt::red, isDark(palette) ? 0.35 : 0.20);
+}
+
+QColor currentErrorBackground(const QPalette& palette) {
+    return mixed(palette.color(QPalette::Base), Qt::red, isDark(palette) ? 0.60 : 0.45);
 }
 
 QColor foundBackground(const QPalette& palette) {

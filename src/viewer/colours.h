@@ -11,6 +11,9 @@ namespace kav::viewer {
 /// Behind a line with an error: the theme's background with red in it.
 [[nodiscard]] QColor errorBackground(const QPalette& palette);
 
+/// Behind the line of the error that the user is at: with more red.
+[[nodiscard]] QColor currentErrorBackground(const QPalette& palette);
+
 /// Behind what a search found besides the selected place.
 [[nodiscard]] QColor foundBackground(const QPalette& palette);
 

@@ -49,7 +49,7 @@ void HelpBook::readContents() {
         if (tag->closes) continue;
         if (tag->name == "h2") contents_.push_back({runningText(contentOf(html, *tag)), std::nullopt});
         const auto target = tag->name == "a" ? attributeOf(*tag, "href") : std::nullopt;
-        if (!target || !target->starts_with('#')) continue;
+        if (!target || !target->starts_with('#') || contents_.empty()) continue;
         const auto place = placeOf(target->substr(1));
         if (place && place->page > 0 && place->anchor.empty()) {
             contents_.push_back({pages_[place->page].title, place->page});

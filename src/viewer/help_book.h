@@ -31,8 +31,8 @@ struct HelpPlace {
     std::string anchor;
 };
 
-/// The pages of a help file. The first page is the contents: its second-level headings and its links to
-/// other pages are the contents list, in that order.
+/// The pages of a help file. The first page is the contents: its second-level headings and the links to other
+/// pages below them are the contents list, in that order.
 class HelpBook {
   public:
     /// True for a text that is a help file rather than plain text.

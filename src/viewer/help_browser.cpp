@@ -11,6 +11,7 @@ namespace kav::viewer {
 namespace {
 
 constexpr int kMostMarks = 1000;
+constexpr int kMargin = 14;  // around a page
 
 QUrl addressOf(const HelpBook& book, const HelpPlace& place) {
     QUrl address("kavhelp:/" + QString::fromStdString(book.pages()[place.page].name));
@@ -22,6 +23,7 @@ QUrl addressOf(const HelpBook& book, const HelpPlace& place) {
 
 HelpBrowser::HelpBrowser(const HelpBook& book, QWidget* parent) : QTextBrowser(parent), book_(book) {
     setObjectName("page");
+    document()->setDocumentMargin(kMargin);
     takeColours();
 }
 

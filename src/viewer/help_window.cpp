@@ -73,6 +73,7 @@ void HelpWindow::makeSide(QWidget* side) {
     results_->setObjectName("results");
     results_->setWordWrap(true);
     results_->setAlternatingRowColors(true);
+    results_->setSpacing(3);
     results_->hide();
     auto* column = new QVBoxLayout(side);
     column->setContentsMargins(4, 4, 0, 0);

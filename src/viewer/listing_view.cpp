@@ -30,11 +30,14 @@ void ListingView::showListing(const QString& text, std::vector<std::size_t> mark
 }
 
 void ListingView::goToLine(std::size_t line) {
-    QTextCursor cursor(document()->findBlockByNumber(static_cast<int>(line)));
-    cursor.movePosition(QTextCursor::EndOfBlock);
-    cursor.movePosition(QTextCursor::StartOfBlock, QTextCursor::KeepAnchor);
+    const QTextCursor cursor(document()->findBlockByNumber(static_cast<int>(line)));
     setTextCursor(cursor);
     centerCursor();
+    QTextEdit::ExtraSelection current;
+    current.cursor = cursor;
+    current.format.setBackground(currentErrorBackground(palette()));
+    current.format.setProperty(QTextFormat::FullWidthSelection, true);
+    setExtraSelections({current});
 }
 
 bool ListingView::isMarked(std::size_t line) const {

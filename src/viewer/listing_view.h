@@ -23,7 +23,7 @@ class ListingView : public QPlainTextEdit {
     /// Shows the text and marks its lines; `marked` is ascending, from 0 on.
     void showListing(const QString& text, std::vector<std::size_t> marked);
 
-    /// Brings a line into the middle of the window and selects it; lines count from 0.
+    /// Brings a line into the middle of the window and makes it stand out; lines count from 0.
     void goToLine(std::size_t line);
 
     [[nodiscard]] bool isMarked(std::size_t line) const;

@@ -9,7 +9,8 @@ namespace {
 
 constexpr std::string_view kBook =
     "<!DOCTYPE html>\n<html><body>"
-    "<section id=\"index\"><h1>Help</h1><h2>Start</h2><ul><li><a href=\"#first\">First steps</a></li></ul>"
+    "<section id=\"index\"><h1>Help</h1><p><a href=\"#keys\">Keys</a></p><h2>Start</h2><ul><li><a "
+    "href=\"#first\">First steps</a></li></ul>"
     "<h2>Look up</h2><a href=\"#keys\">Keys</a> and <a href=\"#f1\">F1</a></section>"
     "<section id=\"first\"><h1>First <b>steps</b></h1><p id=\"save\">Save it.</p></section>"
     "<section id=\"keys\"><h1>Keys</h1><p id=\"f1\">F1</p></section></body></html>";
@@ -27,7 +28,8 @@ TEST(HelpBook, SplitsTheFileIntoPages) {
 
 TEST(HelpBook, TakesTheContentsListFromTheFirstPage) {
     const HelpBook book(kBook);
-    ASSERT_EQ(book.contents().size(), 4U) << "a link to a place within a page is no line of the list";
+    ASSERT_EQ(book.contents().size(), 4U)
+        << "neither a link to a place within a page nor one above all headings";
     EXPECT_EQ(book.contents()[0].title, "Start");
     EXPECT_FALSE(book.contents()[0].page);
     EXPECT_EQ(book.contents()[1].title, "First steps");
