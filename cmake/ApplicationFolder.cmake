@@ -2,6 +2,7 @@
 # into it; this adds what is copied. A preferences file that is there already belongs to the user and stays.
 file(GLOB KAV_INCLUDE_FILES CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/toolchain/include/*.inc)
 file(GLOB KAV_EXAMPLE_FILES CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/examples/*.z80)
+set(KAV_MANUAL_PAGES ${PROJECT_SOURCE_DIR}/toolchain/assembler/kav-asm.1 ${PROJECT_SOURCE_DIR}/packaging/kav-compiler.1)
 set(KAV_SCRIPT ${PROJECT_SOURCE_DIR}/toolchain/asm)
 set(KAV_FIRST_PREFERENCES ${PROJECT_SOURCE_DIR}/packaging/prefs.ini)
 
@@ -39,9 +40,13 @@ add_custom_command(
 add_custom_target(kav_application_folder ALL
                   DEPENDS ${KAV_APP_DIR}/copied.stamp ${KAV_LARGEST_ICON} ${KAV_HELP_FILE})
 
-set(KAV_INSTALL_DIR ${CMAKE_INSTALL_LIBDIR}/kav-compiler)
-install(TARGETS kav-compiler kav-viewer kav-asm unregister-file-types DESTINATION ${KAV_INSTALL_DIR})
-install(PROGRAMS ${KAV_SCRIPT} DESTINATION ${KAV_INSTALL_DIR})
-install(FILES ${KAV_FIRST_PREFERENCES} ${KAV_HELP_FILE} DESTINATION ${KAV_INSTALL_DIR})
-install(FILES ${KAV_INCLUDE_FILES} DESTINATION ${KAV_INSTALL_DIR}/include)
-install(FILES ${KAV_EXAMPLE_FILES} DESTINATION ${KAV_INSTALL_DIR}/examples)
+# Installed, the prefix is the application folder:  cmake --install out/release --prefix "$HOME/KAV Compiler"
+install(TARGETS kav-compiler kav-viewer kav-asm unregister-file-types DESTINATION . COMPONENT folder)
+install(FILES ${KAV_HELP_FILE} DESTINATION . COMPONENT folder)
+install(FILES ${KAV_INCLUDE_FILES} DESTINATION include COMPONENT folder)
+install(FILES ${KAV_EXAMPLE_FILES} DESTINATION examples COMPONENT folder)
+install(DIRECTORY ${KAV_APP_DIR}/icons DESTINATION . COMPONENT folder)
+install(FILES ${KAV_MANUAL_PAGES} DESTINATION . COMPONENT manual)
+install(CODE "set(KAV_FIRST_PREFERENCES \"${KAV_FIRST_PREFERENCES}\")
+              set(KAV_SCRIPT \"${KAV_SCRIPT}\")" COMPONENT folder)
+install(SCRIPT ${PROJECT_SOURCE_DIR}/cmake/InstallUsersFiles.cmake COMPONENT folder)
