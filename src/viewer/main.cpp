@@ -2,6 +2,7 @@
 // kav-viewer: shows the help, or a text file such as a build's listing, without changing it.
 #include "platform/desktop/text_conversion.h"
 #include "runtime/failure.h"
+#include "shell/application_icon.h"
 #include "viewer/viewer_window.h"
 
 #include <iostream>
@@ -11,6 +12,7 @@
 
 int main(int argumentCount, char** arguments) {
     QApplication application(argumentCount, arguments);
+    QApplication::setWindowIcon(kav::applicationIcon());
     if (argumentCount != 2) {
         std::cerr << "usage: kav-viewer FILE\n";
         return 2;
@@ -21,7 +23,7 @@ int main(int argumentCount, char** arguments) {
         window->show();
         return QApplication::exec();
     } catch (const kav::Failure& failure) {
-        QMessageBox::critical(nullptr, "KAV Compiler",
+        QMessageBox::critical(nullptr, "KAV Compiler Viewer",
                               kav::viewer::cannotShow(path, kav::shown(failure.description())));
         return 1;
     }

@@ -17,7 +17,7 @@ std::unique_ptr<QWidget> windowFor(const QString& path) {
 }
 
 QString cannotShow(const QString& path, const QString& reason) {
-    QString text = QString("The file cannot be shown: %1.\n\n%2").arg(reason, path);
+    QString text = QString("The file cannot be shown: %1.").arg(reason);
     if (path.endsWith(".hlp", Qt::CaseInsensitive)) {
         return text +
                "\n\nThe help file stands in the folder of KAV Compiler. "
