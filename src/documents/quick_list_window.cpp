@@ -64,6 +64,9 @@ bool filez::files_KeyDown(int key) {
         case Qt::Key_Delete:
             delete_inviso_Click();
             return true;
+        case Qt::Key_Escape:
+            hide();
+            return true;
         default:
             return false;
     }

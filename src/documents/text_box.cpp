@@ -36,6 +36,9 @@ TextBox::TextBox(QWidget* parent) : QsciScintilla(parent) {
     setEolMode(EolWindows);
     setMarginWidth(1, 0);
     setFrameShape(QFrame::NoFrame);
+    // A little room between the margin and the text.
+    constexpr intptr_t kTextMargin = 4;
+    SendScintilla(SCI_SETMARGINLEFT, 0UL, kTextMargin);
     // The horizontal scroll bar follows the longest line seen, rather than a fixed width.
     SendScintilla(SCI_SETSCROLLWIDTH, 1UL);
     SendScintilla(SCI_SETSCROLLWIDTHTRACKING, 1UL);

@@ -21,15 +21,16 @@ settings::settings(std::string preferencesPath, QWidget* owner)
     setObjectName("settings");
     setWindowTitle("Settings - KAV Compiler");
     const SettingsFields fields = settingsFields(table_);
+    // Made in the order in which Tab goes through them.
+    auto* grid = new QGridLayout(this);
+    addFontBoxes(*grid, fields);
     asmm = addCheckBox("asmm", "Make .83p", fields.asmm);
-    asmp = addCheckBox("asmp", "Make .8xp", fields.asmp);
     stasm = addCheckBox("stasm", "Show TASM", fields.stasm);
+    asmp = addCheckBox("asmp", "Make .8xp", fields.asmp);
     eegg = addCheckBox("eegg", "'Easter Eggs'", fields.eegg);
     iexplore = addCheckBox("iexplore", "I use Internet Explorer", fields.iexplore);
     connect(iexplore, &QCheckBox::clicked, this, &settings::iexplore_Click);
 
-    auto* grid = new QGridLayout(this);
-    addFontBoxes(*grid, fields);
     grid->addWidget(asmm, 2, 0);
     grid->addWidget(stasm, 2, 1);
     grid->addWidget(asmp, 3, 0);
@@ -77,8 +78,9 @@ void settings::addBrowserBox(QGridLayout& grid, const SettingsFields& fields) {
         policy.setRetainSizeWhenHidden(true);
         widget->setSizePolicy(policy);
     }
-    grid.addWidget(craplbl, 5, 0);
-    grid.addWidget(craptxt, 5, 1);
+    // A path is long.
+    grid.addWidget(craplbl, 5, 0, 1, 2);
+    grid.addWidget(craptxt, 6, 0, 1, 2);
 }
 
 void settings::addButtons(QGridLayout& grid) {
@@ -89,8 +91,8 @@ void settings::addButtons(QGridLayout& grid) {
     auto* Command2 = new QPushButton("Cancel", this);
     Command2->setObjectName("Command2");
     connect(Command2, &QPushButton::clicked, this, &QDialog::reject);
-    grid.addWidget(Command1, 6, 0);
-    grid.addWidget(Command2, 6, 1);
+    grid.addWidget(Command1, 7, 0);
+    grid.addWidget(Command2, 7, 1);
 }
 
 void settings::iexplore_Click() {

@@ -48,7 +48,8 @@ Compiler::Compiler(Platform platform, ApplicationFolder applicationFolder)
     documents_->setObjectName("documents");
     documents_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     documents_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
-    resize(900, 640);
+    // Wide enough for the longest help of the toolbar.
+    resize(960, 680);
     addHandlers();
     buildMenus();
     makeStatusBar();

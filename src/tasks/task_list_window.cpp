@@ -60,6 +60,8 @@ QLineEdit* dbgr::addBox(const char* name) {
 QPushButton* dbgr::addButton(const char* name, const char* caption, void (dbgr::*handler)()) {
     auto* button = new QPushButton(caption, this);
     button->setObjectName(name);
+    // Enter presses the button that has the keyboard, as in a dialog.
+    button->setAutoDefault(true);
     connect(button, &QPushButton::clicked, this, handler);
     return button;
 }
@@ -73,7 +75,8 @@ void dbgr::layOut() {
     grid->addWidget(Text2, 1, 0);
     grid->addWidget(Text3, 1, 1);
     grid->addWidget(Text1, 1, 2);
-    grid->addWidget(addButton("Command1", "Add Task", &dbgr::Command1_Click), 1, 3);
+    auto* Command1 = addButton("Command1", "Add Task", &dbgr::Command1_Click);
+    grid->addWidget(Command1, 1, 3);
     grid->addWidget(TreeView1, 2, 0, 7, 3);
     grid->addWidget(addButton("Command8", "Goto", &dbgr::Command8_Click), 2, 3);
     grid->addWidget(addButton("Command3", "Delete", &dbgr::Command3_Click), 3, 3);
@@ -85,6 +88,11 @@ void dbgr::layOut() {
     grid->setColumnStretch(2, 1);
     grid->setRowStretch(8, 1);
     resize(620, 340);
+    // Tab goes from left to right and from top to bottom.
+    setTabOrder(Text2, Text3);
+    setTabOrder(Text3, Text1);
+    setTabOrder(Text1, Command1);
+    setTabOrder(Command1, TreeView1);
 }
 
 void dbgr::connectTree() {
@@ -142,6 +150,14 @@ bool dbgr::eventFilter(QObject* watched, QEvent* event) {
     return QWidget::eventFilter(watched, event);
 }
 
+void dbgr::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape) {
+        hide();
+    } else {
+        QWidget::keyPressEvent(event);
+    }
+}
+
 std::size_t dbgr::selectedIndex() const {
     QTreeWidgetItem* const item = TreeView1->currentItem();
     if (item == nullptr) return 0;
@@ -174,6 +190,8 @@ void dbgr::TreeView1_NodeClick(std::size_t index) {
     Text2->setText(shown(boxes.document));
     Text3->setText(shown(boxes.line));
     Text1->setText(shown(boxes.text));
+    // A long text shows its beginning.
+    Text1->setCursorPosition(0);
     const QSignalBlocker quiet(TreeView1);
     for (std::size_t shownIndex = 1; shownIndex <= tasks_.count(); ++shownIndex)
         showTask(shownIndex);

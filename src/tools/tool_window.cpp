@@ -9,6 +9,8 @@
 
 #include <algorithm>
 
+#include <QPushButton>
+
 namespace kav {
 
 namespace {
@@ -39,6 +41,8 @@ void ToolWindow::adopt(QWidget& control, const char* name, const TwipsRect& at) 
     control.setFont(font);
     // A press that a control has no use for is not one on the window below it.
     control.setAttribute(Qt::WA_NoMousePropagation);
+    // Enter presses the button that has the keyboard, as in a dialog.
+    if (auto* button = qobject_cast<QPushButton*>(&control)) button->setAutoDefault(true);
 }
 
 void ToolWindow::narrowToFit(QWidget& control) const {

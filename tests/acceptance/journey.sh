@@ -11,7 +11,7 @@ export LSAN_OPTIONS="suppressions=$project/tests/acceptance/leaks.supp:print_sup
 
 built_application=$1 run_program=$2 pictures=$3
 rm -rf "$pictures"
-start_desktop
+start_desktop "${display_size:-1280x900}"
 application="$desktop_folder/Calculator Programs/KAV Compiler of mine"
 mkdir -p "$(dirname "$application")"
 cp -a "$built_application" "$application"
@@ -55,12 +55,16 @@ save_program() {
 
 preference_line() { sed -n "${1}p" "$application/prefs.ini" | tr -d '\r'; }
 
-# read_window [GEOMETRY]: the words that the window with the keyboard shows, there or all over, as an eye would
-# read them off the screen.
+# read_window [GEOMETRY]: the words that the window with the keyboard shows, read off the screen as an eye
+# does: one line there, or, all over it, first as a page and then as words scattered about.
 read_window() {
-    import -window "$(xdotool getactivewindow)" "$desktop_folder/window.png"
-    convert "$desktop_folder/window.png" ${1:+-crop "$1" +repage} -colorspace Gray -resize 300% "$desktop_folder/read.png"
-    tesseract "$desktop_folder/read.png" - --psm 6 2>>"$desktop_folder/read.log"
+    local page=$desktop_folder/read.png layouts=(6 11) layout
+    [ $# -eq 0 ] || layouts=(7)
+    import -window "$(xdotool getactivewindow)" "$page"
+    convert "$page" ${1:+-crop "$1" +repage} -colorspace Gray -resize 300% "$page"
+    for layout in "${layouts[@]}"; do
+        tesseract "$page" - --psm "$layout" 2>>"$desktop_folder/read.log"
+    done
 }
 
 # legible TEXT: its letters and digits as an eye may take them that mixes up those that look alike.
@@ -71,6 +75,19 @@ shows() { [[ "$(legible "$(read_window ${2:+"$2"})")" == *"$(legible "$1")"* ]];
 
 # expect_shown TEXT [GEOMETRY]: fails when the window does not come to show it.
 expect_shown() { wait_until 5 shows "$@" || fail "'$1' is not shown, but: $(read_window ${2:+"$2"})"; }
+
+# stub_browser: from now on, addresses that the program opens stand in the file $opened instead.
+stub_browser() {
+    opened=$desktop_folder/opened
+    mkdir -p "$desktop_folder/bin"
+    printf '#!/bin/sh\nprintf "%%s\\n" "$@" >>"%s"\n' "$opened" >"$desktop_folder/bin/xdg-open"
+    chmod +x "$desktop_folder/bin/xdg-open"
+    export PATH=$desktop_folder/bin:$PATH
+}
+
+# expect_opened ADDRESS: waits until this is the last address that was opened.
+expect_opened() { wait_until 10 was_opened "$1" || fail "opened was: $(cat "$opened")"; }
+was_opened() { [ "$(tail -n 1 "$opened" 2>/dev/null)" = "$1" ]; }
 
 # expect_file FILE TEXT: the file holds this text, byte for byte.
 expect_file() {

@@ -96,4 +96,10 @@ TEST_F(QuickList, ClosingItClearsTheCheckMarkAndShowingItReadsTheFolderAgain) {
     EXPECT_FALSE(compiler().menuItem("vew_list")->isChecked());
 }
 
+TEST_F(QuickList, EscapePutsItAway) {
+    press(Qt::Key_Escape);
+    EXPECT_FALSE(compiler().quickList().isVisible());
+    EXPECT_FALSE(compiler().menuItem("vew_list")->isChecked());
+}
+
 }  // namespace kav::test

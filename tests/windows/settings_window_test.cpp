@@ -149,4 +149,14 @@ TEST_F(SettingsWindow, TheMenuShowsItModally) {
     EXPECT_TRUE(modal);
 }
 
+TEST_F(SettingsWindow, TabGoesThroughItAsItReads) {
+    settings& dialog = open();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+    fonte().setFocus();
+    for (const char* name : {"fontse", "asmm", "stasm", "asmp", "eegg", "iexplore", "craptxt", "Command1"}) {
+        QTest::keyClick(dialog.focusWidget(), Qt::Key_Tab);
+        EXPECT_EQ(dialog.focusWidget()->objectName(), name);
+    }
+}
+
 }  // namespace kav::test

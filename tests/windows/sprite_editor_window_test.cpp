@@ -3,6 +3,8 @@
 
 #include "windows/tool_window_fixture.h"
 
+#include <QPushButton>
+
 namespace kav::test {
 
 class SpriteEditor : public ToolWindowTest<Form2> {
@@ -205,6 +207,13 @@ TEST_F(SpriteEditor, KeepsMenuShortcutsFromTheDocument) {
     ASSERT_TRUE(QTest::qWaitFor([this] { return QApplication::activeWindow() == &tool(); }));
     QTest::keyClick(&tool(), Qt::Key_N, Qt::ControlModifier);
     EXPECT_TRUE(desktop_.boxes.askedBoxes.empty());
+}
+
+TEST_F(SpriteEditor, EnterPressesTheButtonThatHasTheKeyboard) {
+    auto* button = tool().findChild<QPushButton*>("Command2");
+    button->setFocus();
+    QTest::keyClick(button, Qt::Key_Return);
+    EXPECT_EQ(desktop_.clipboard.content, kEmptySprite);
 }
 
 }  // namespace kav::test

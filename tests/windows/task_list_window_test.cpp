@@ -141,4 +141,27 @@ TEST_F(TaskListWindow, ClosingTheListClearsTheCheckMarkAndKeepsTheTasks) {
     EXPECT_EQ(list().tasks().count(), 1U);
 }
 
+TEST_F(TaskListWindow, ALongTaskShowsItsBeginning) {
+    add("1", "1", std::string(200, 'x').c_str());
+    click(1);
+    EXPECT_EQ(box("Text1").cursorPosition(), 0);
+}
+
+TEST_F(TaskListWindow, TabGoesThroughTheBoxesAndEnterPressesTheButton) {
+    ASSERT_TRUE(QTest::qWaitFor([this] { return QApplication::activeWindow() == &list(); }));
+    box("Text2").setFocus();
+    for (const char* name : {"Text3", "Text1", "Command1"}) {
+        QTest::keyClick(list().focusWidget(), Qt::Key_Tab);
+        ASSERT_EQ(list().focusWidget()->objectName(), name);
+    }
+    QTest::keyClick(list().focusWidget(), Qt::Key_Return);
+    EXPECT_EQ(list().tasks().count(), 1U);
+}
+
+TEST_F(TaskListWindow, EscapePutsItAway) {
+    QTest::keyClick(&tree(), Qt::Key_Escape);
+    EXPECT_FALSE(list().isVisible());
+    EXPECT_FALSE(compiler().menuItem("vew_task")->isChecked());
+}
+
 }  // namespace kav::test

@@ -8,6 +8,8 @@
 
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QHeaderView>
+#include <QTreeView>
 
 namespace kav {
 
@@ -46,6 +48,16 @@ void presetName(QFileDialog& dialog, const FileQuestion& question) {
     if (!info.fileName().isEmpty()) dialog.selectFile(info.fileName());
 }
 
+/// Sizes, types and dates stand there whole; names get the room that is left.
+void showDetails(QFileDialog& dialog) {
+    dialog.resize(720, 420);
+    const auto* list = dialog.findChild<QTreeView*>("treeView");
+    if (list == nullptr) return;
+    QHeaderView& columns = *list->header();
+    columns.setSectionResizeMode(QHeaderView::ResizeToContents);
+    columns.setSectionResizeMode(0, QHeaderView::Stretch);
+}
+
 }  // namespace
 
 std::optional<std::string> DesktopFileChooser::choose(const FileQuestion& question) {
@@ -60,6 +72,7 @@ std::optional<std::string> DesktopFileChooser::choose(const FileQuestion& questi
     const QStringList nameFilters = nameFiltersOf(question.filter);
     dialog.setNameFilters(nameFilters);
     presetName(dialog, question);
+    showDetails(dialog);
     if (saves && !nameFilters.isEmpty()) {
         dialog.setDefaultSuffix(suffixOf(nameFilters.first()));
         QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog,
