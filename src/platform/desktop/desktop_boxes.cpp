@@ -12,6 +12,7 @@
 #include <QInputDialog>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPushButton>
 
 namespace kav {
 
@@ -64,6 +65,11 @@ QMessageBox::Icon iconOf(BoxIcon icon) {
     return QMessageBox::NoIcon;
 }
 
+/// Alt with a button's first letter presses it, where the desktop gives it no letter of its own.
+void addLetterKey(QPushButton& button) {
+    if (!button.text().contains('&')) button.setText('&' + button.text());
+}
+
 }  // namespace
 
 BoxAnswer DesktopBoxes::show(const MessageBox& box) {
@@ -75,7 +81,7 @@ BoxAnswer DesktopBoxes::show(const MessageBox& box) {
     window.setIcon(iconOf(box.icon));
     const std::vector<BoxAnswer> answers = answersOf(box.buttons);
     for (const BoxAnswer answer : answers) {
-        window.addButton(buttonOf(answer));
+        addLetterKey(*window.addButton(buttonOf(answer)));
         if (answer == box.defaultAnswer) window.setDefaultButton(buttonOf(answer));
     }
     // The last button of each set is the one that changes nothing: Escape and the close box press it.

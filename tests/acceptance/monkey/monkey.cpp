@@ -171,7 +171,8 @@ void Monkey::planInWindow(QWidget& window) {
         if (choice < 70) return planToolbar();
         if (choice < 84) return planClick(window);
         if (choice < 94) return planDrag(window);
-        if (choice < 97) return key("ctrl+F4");
+        if (choice < 96) return key("ctrl+F4");
+        if (choice < 98) return planBuild();
         return planPause();
     }
     if (choice < 15) return planTyping();

@@ -54,6 +54,7 @@ class Monkey : public QObject {
     void planClick(QWidget& window);
     void planDrag(QWidget& window);
     void planEditing();
+    void planBuild();
     void planPause();
     void planResize(QWidget& window);
     void planFarewell();

@@ -103,6 +103,19 @@ void Monkey::wait(int milliseconds) {
     then([this, milliseconds] { waitUntil_ = elapsed_.elapsed() + milliseconds; });
 }
 
+// A template builds as it stands, so that a success comes about now and then.
+void Monkey::planBuild() {
+    key("ctrl+n");
+    wait(50);
+    key("Return");
+    wait(50);
+    key("ctrl+l");
+    wait(50);
+    type("game");
+    key("Return");
+    wait(300);
+}
+
 void Monkey::planPause() {
     wait(static_cast<int>(below(400)));
 }
