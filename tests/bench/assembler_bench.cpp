@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The assembler beside two others: one program of 20,000 lines and 64 KB, one of two lines, and how its own
 // time grows with the length of the source.
+#include "stopwatch.h"
 #include "support/temporary_folder.h"
+#include "table.h"
 
-#include <algorithm>
-#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
@@ -14,8 +14,6 @@
 #include <vector>
 
 namespace {
-
-using Clock = std::chrono::steady_clock;
 
 constexpr int kRounds = 15;
 
@@ -89,37 +87,25 @@ std::string longProgram(int lines) {
     return text;
 }
 
-/// The shortest time that the command takes, in milliseconds.
-double milliseconds(const std::string& command) {
-    double best = 1e9;
-    for (int round = 0; round < kRounds; ++round) {
-        const auto start = Clock::now();
-        if (std::system((command + " >/dev/null 2>&1").c_str()) != 0) return 0;
-        best = std::min(best, std::chrono::duration<double, std::milli>(Clock::now() - start).count());
-    }
-    return best;
+/// The shortest time that the command takes.
+double secondsOf(const std::string& command) {
+    return kav::bench::leastSecondsOf(kRounds, [&] {
+        if (std::system((command + " >/dev/null 2>&1").c_str()) != 0) std::abort();
+    });
 }
 
-void compare(const std::string& folder, const char* what, const std::string& source) {
+void compare(const std::string& folder, const std::string& what, const std::string& source) {
     std::ofstream(folder + "/a.z80", std::ios::binary) << source;
     const std::string in = " '" + folder + "/a.z80' ";
     const std::string out = " '" + folder + "/a.bin' ";
-    const double ours = milliseconds(std::string(KAV_ASM) + " -t bin -o" + out + in);
-    const double pasmo = milliseconds("pasmo" + in + out);
-    const double z80asm = milliseconds("z80asm" + in + "-o" + out);
-    const double bare = milliseconds("true");
-    std::printf(
-        "%-24s kav-asm %.2f ms, pasmo %.2f ms (%.1f times), z80asm %.2f ms (%.1f times), starting a process "
-        "%.2f ms\n",
-        what, ours, pasmo, pasmo / ours, z80asm, z80asm / ours, bare);
+    const double ours = secondsOf(std::string(KAV_ASM) + " -t bin -o" + out + in);
+    kav::bench::printRow("assembling " + what, ours, secondsOf("pasmo" + in + out), "pasmo");
+    kav::bench::printRow("assembling " + what, ours, secondsOf("z80asm" + in + "-o" + out), "z80asm");
 }
 
-void measureGrowth(const std::string& folder, int lines) {
+double secondsForLines(const std::string& folder, int lines) {
     std::ofstream(folder + "/long.z80", std::ios::binary) << longProgram(lines);
-    const double time =
-        milliseconds(std::string(KAV_ASM) + " -t bin -o '" + folder + "/a.bin' '" + folder + "/long.z80'");
-    std::printf("%9d lines           %.1f ms, %.1f million lines a second\n", lines, time,
-                lines / time / 1000);
+    return secondsOf(std::string(KAV_ASM) + " -t bin -o '" + folder + "/a.bin' '" + folder + "/long.z80'");
 }
 
 }  // namespace
@@ -127,9 +113,10 @@ void measureGrowth(const std::string& folder, int lines) {
 int main() {
     const kav::test::TemporaryFolder folder;
     const std::string path = folder.path().string();
-    compare(path, "20000 lines, 64 KB", program(20000));
+    compare(path, "20,000 lines, 64 KB", program(20000));
     compare(path, "2 lines", "\tnop\n\tret\n");
-    for (const int lines : {10'000, 100'000, 1'000'000})
-        measureGrowth(path, lines);
+    const double tenth = secondsForLines(path, 100'000);
+    kav::bench::printRow("assembling 1,000,000 lines with macros", secondsForLines(path, 1'000'000),
+                         10 * tenth, "kav-asm, ten times 100,000 lines");
     return 0;
 }

@@ -2,11 +2,10 @@
 // Measures the redraw of a full 15 by 15 grid of gradient discs beside the same rings drawn as the toolkit's
 // own ellipses, one call a ring.
 #include "platform/desktop/desktop_services.h"
+#include "stopwatch.h"
+#include "table.h"
 #include "tools/disc.h"
 #include "tools/drawing_surface.h"
-
-#include <chrono>
-#include <cstdio>
 
 #include <QGuiApplication>
 #include <QPainter>
@@ -18,12 +17,12 @@ constexpr int kSide = 800;
 
 template <typename Draw>
 double secondsOf(Draw draw) {
-    const auto start = std::chrono::steady_clock::now();
-    for (int y = 0; y < kCells; ++y) {
-        for (int x = 0; x < kCells; ++x)
-            draw(QPointF(x + 1, y + 1));
-    }
-    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+    return kav::bench::secondsOf([&] {
+        for (int y = 0; y < kCells; ++y) {
+            for (int x = 0; x < kCells; ++x)
+                draw(QPointF(x + 1, y + 1));
+        }
+    });
 }
 
 }  // namespace
@@ -46,6 +45,5 @@ int main(int argumentCount, char** arguments) {
             painter.drawEllipse(centre * pixelsPerCentimetre, radius, radius);
         }
     });
-    std::printf("%-34s %12.6f s   %12.6f s %-34s %8.2f\n", "225 discs drawn on the surface", ours, peers,
-                "an ellipse of the toolkit a ring", ours / peers);
+    kav::bench::printRow("225 gradient discs", ours, peers, "the toolkit's ellipses, one a ring");
 }

@@ -6,11 +6,12 @@
 #include "documents/text_box.h"
 #include "runtime/files.h"
 #include "shell/main_window.h"
+#include "stopwatch.h"
 #include "support/scripted_platform.h"
 #include "support/temporary_folder.h"
+#include "table.h"
 
-#include <chrono>
-#include <cstdio>
+#include <cstddef>
 #include <string>
 
 #include <QApplication>
@@ -19,18 +20,11 @@
 
 namespace {
 
-using Clock = std::chrono::steady_clock;
+using kav::bench::printRow;
+using kav::bench::secondsOf;
 
 constexpr std::size_t kLargeText = 10'000'000;
 constexpr std::size_t kOneScreen = 2'000;
-
-/// Seconds that the action takes.
-template <typename Action>
-double secondsOf(Action action) {
-    const auto start = Clock::now();
-    action();
-    return std::chrono::duration<double>(Clock::now() - start).count();
-}
 
 std::string largeText() {
     std::string text;
@@ -50,10 +44,6 @@ double secondsPerKey(Box& box, QWidget& target) {
                }
            }) /
            kKeys;
-}
-
-void print(const char* what, double ours, double peers, const char* peer) {
-    std::printf("%-34s %12.6f s   %12.6f s %-34s %8.2f\n", what, ours, peers, peer, ours / peers);
 }
 
 /// The program over an application folder of its own, with no document open.
@@ -101,7 +91,6 @@ int main(int argumentCount, char** arguments) {
     }
     bare.setTextFont("DejaVu Sans Mono", 12);
 
-    std::printf("%-34s %14s   %14s %-34s %8s\n", "", "document", "", "peer", "ratio");
     const double smallKey = [&] {
         kav::TextBox& small = program.open(text.substr(0, kOneScreen));
         return secondsPerKey(small, *small.viewport());
@@ -109,11 +98,12 @@ int main(int argumentCount, char** arguments) {
     kav::TextBox* large = nullptr;
     const double opening = secondsOf([&] { large = &program.open(text); });
     const double peersOpening = secondsOf([&] { peer.setPlainText(QString::fromStdString(text)); });
-    print("a text of 10 MB is opened", opening, peersOpening, "toolkit's plain text box");
+    printRow("a document window for 10 MB", opening, peersOpening, "the toolkit's plain text box");
     const double largeKey = secondsPerKey(*large, *large->viewport());
-    print("a key in 10 MB, painted", largeKey, smallKey, "a key in one screen of text");
+    printRow("a key in 10 MB, until it is painted", largeKey, smallKey, "a key in one screen of text");
     bare.setBytes(text);
-    print("a key in 10 MB, painted", largeKey, secondsPerKey(bare, *bare.viewport()),
-          "a text box without aids");
-    print("a key in 10 MB, painted", largeKey, secondsPerKey(peer, peer), "toolkit's plain text box, 10 MB");
+    printRow("a key in 10 MB, until it is painted", largeKey, secondsPerKey(bare, *bare.viewport()),
+             "a text box without aids");
+    printRow("a key in 10 MB, until it is painted", largeKey, secondsPerKey(peer, peer),
+             "the toolkit's plain text box, 10 MB");
 }
