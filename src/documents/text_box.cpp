@@ -68,12 +68,17 @@ std::size_t TextBox::byteLength() const {
 }
 
 void TextBox::setBytes(std::string_view text) {
+    // The text box would tell of the modification with copies of the text, some of them converted.
+    const auto told = static_cast<uintptr_t>(SendScintilla(SCI_GETMODEVENTMASK));
+    SendScintilla(SCI_SETMODEVENTMASK, 0UL);
     SendScintilla(SCI_SETUNDOCOLLECTION, 0UL);
     SendScintilla(SCI_CLEARALL);
     SendScintilla(SCI_ADDTEXT, static_cast<uintptr_t>(text.size()), text.data());
     SendScintilla(SCI_SETUNDOCOLLECTION, 1UL);
     SendScintilla(SCI_EMPTYUNDOBUFFER);
     SendScintilla(SCI_GOTOPOS, 0UL);
+    SendScintilla(SCI_SETMODEVENTMASK, told);
+    emit linesChanged();
     sendChanged();
 }
 

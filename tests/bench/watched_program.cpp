@@ -42,22 +42,21 @@ bool hasWindow(const QString& title) {
     return search.exitCode() == 0;
 }
 
-}  // namespace
-
-void giveUp(const std::string& why) {
-    std::fprintf(stderr, "kav bench: %s\n", why.c_str());
+[[noreturn]] void giveUp(const QString& why) {
+    std::fprintf(stderr, "kav bench: %s\n", qPrintable(why));
     std::exit(EXIT_FAILURE);
 }
 
-WatchedProgram::WatchedProgram(const QString& program, const QStringList& arguments, const QString& home) {
+}  // namespace
+
+WatchedProgram::WatchedProgram(const QString& program, const QStringList& arguments) {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert("HOME", home);
     environment.insert("NO_AT_BRIDGE", "1");  // no program waits for an accessibility bus that is not there
     process_.setProcessEnvironment(environment);
     process_.setStandardErrorFile(QProcess::nullDevice());
     process_.setStandardOutputFile(QProcess::nullDevice());
     process_.start(program, arguments);
-    if (!process_.waitForStarted()) giveUp("cannot start " + program.toStdString());
+    if (!process_.waitForStarted()) giveUp("cannot start " + program);
 }
 
 WatchedProgram::~WatchedProgram() {
@@ -69,13 +68,18 @@ QString WatchedProgram::folder() const {
     return "/proc/" + QString::number(process_.processId());
 }
 
-bool WatchedProgram::hasRun() {
+bool WatchedProgram::runs() {
     std::map<QString, QByteArray> now;
-    for (const QString& thread : QDir(folder() + "/task").entryList(QDir::Dirs | QDir::NoDotAndDotDot))
-        now[thread] = content(folder() + "/task/" + thread + "/schedstat");
-    const bool changed = now != schedules_;
+    bool wantsTo = false;
+    for (const QString& thread : QDir(folder() + "/task").entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+        const QString of = folder() + "/task/" + thread;
+        now[thread] = content(of + "/schedstat");
+        // A thread that waits for a processor or a disk has more to do.
+        wantsTo = wantsTo || !content(of + "/status").contains("State:\tS");
+    }
+    const bool has = now != schedules_;
     schedules_ = now;
-    return changed;
+    return has || wantsTo;
 }
 
 double WatchedProgram::secondsUntilReady(const QString& title) {
@@ -83,8 +87,8 @@ double WatchedProgram::secondsUntilReady(const QString& title) {
     auto lastRun = start;
     bool shown = false;
     while (!shown || Clock::now() - lastRun < kRest) {
-        if (Clock::now() - start > kPatience) giveUp("no window '" + title.toStdString() + "' came to rest");
-        if (hasRun()) lastRun = Clock::now();
+        if (Clock::now() - start > kPatience) giveUp("no window '" + title + "' came to rest");
+        if (runs()) lastRun = Clock::now();
         if (!shown && Clock::now() - lastRun > 10 * kLook) shown = hasWindow(title);
         std::this_thread::sleep_for(kLook);
     }
@@ -92,7 +96,7 @@ double WatchedProgram::secondsUntilReady(const QString& title) {
 }
 
 double WatchedProgram::memory() const {
-    return static_cast<double>(numberBehind(content(folder() + "/smaps_rollup"), "Pss:")) * 1024;
+    return static_cast<double>(numberBehind(content(folder() + "/smaps_rollup"), "Anonymous:")) * 1024;
 }
 
 long long WatchedProgram::wakeups() const {

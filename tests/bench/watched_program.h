@@ -3,7 +3,6 @@
 #pragma once
 
 #include <map>
-#include <string>
 
 #include <QProcess>
 #include <QString>
@@ -15,8 +14,7 @@ namespace kav::bench {
 /// threads' states and processor time, its memory. Every program is measured in this same way.
 class WatchedProgram {
   public:
-    /// Starts the program with a home folder in which nothing is set up.
-    WatchedProgram(const QString& program, const QStringList& arguments, const QString& home);
+    WatchedProgram(const QString& program, const QStringList& arguments);
     ~WatchedProgram();
     WatchedProgram(const WatchedProgram&) = delete;
     WatchedProgram& operator=(const WatchedProgram&) = delete;
@@ -26,14 +24,14 @@ class WatchedProgram {
     /// stopped. Ends the benchmark after a minute of waiting.
     [[nodiscard]] double secondsUntilReady(const QString& title);
 
-    /// Bytes of memory that are the program's, those that it shares counted in proportion.
+    /// Bytes of memory that hold no file's content: what the program has made itself.
     [[nodiscard]] double memory() const;
 
     /// How often a second the program's threads have woken up, over so many seconds.
     [[nodiscard]] double wakeupsPerSecond(int seconds) const;
 
   private:
-    [[nodiscard]] bool hasRun();
+    [[nodiscard]] bool runs();
     [[nodiscard]] QString folder() const;
     [[nodiscard]] long long wakeups() const;
 
@@ -41,8 +39,5 @@ class WatchedProgram {
     std::map<QString, QByteArray>
         schedules_;  ///< each thread's processor time and wait time at the last look
 };
-
-/// Ends the benchmark with a message that says why.
-[[noreturn]] void giveUp(const std::string& why);
 
 }  // namespace kav::bench

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "documents/aids/colour.h"
 #include "documents/aids/margins.h"
+#include "documents/aids/resting_caret.h"
 #include "windows/main_window_fixture.h"
 
 #include <QPalette>
+#include <QTimer>
 
 namespace kav::test {
 
@@ -148,6 +150,25 @@ TEST_F(AidColouring, IsNoChangeOfTheText) {
     makeDark();
     EXPECT_EQ(box().Tag, "0");
     EXPECT_FALSE(box().isUndoAvailable());
+}
+
+TEST(CaretOfATextBox, StopsBlinkingUntilTheNextKey) {
+    TextBox box;
+    RestingCaret caret(box);
+    auto* untilRest = caret.findChild<QTimer*>("untilRest");
+    ASSERT_NE(untilRest, nullptr);
+    const auto period = [&box] { return box.SendScintilla(QsciScintillaBase::SCI_GETCARETPERIOD); };
+    const long blinking = period();
+    EXPECT_GT(blinking, 0);
+    box.show();
+
+    untilRest->setInterval(0);
+    QTest::keyClick(&box, Qt::Key_A);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return period() == 0; }));
+
+    untilRest->setInterval(std::chrono::hours(1));
+    QTest::keyClick(&box, Qt::Key_B);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return period() == blinking; }));
 }
 
 }  // namespace kav::test

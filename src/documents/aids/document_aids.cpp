@@ -3,6 +3,7 @@
 #include "documents/aids/document_aids.h"
 
 #include "documents/aids/line_numbers.h"
+#include "documents/aids/resting_caret.h"
 #include "documents/aids/z80_colouring.h"
 #include "documents/document_window.h"
 #include "documents/text_box.h"
@@ -23,6 +24,7 @@ Colour colourOf(const QColor& colour) {
 
 DocumentAids::DocumentAids(Doc& document, Workspace& /*workspace*/) : box_(document.txt()) {
     add<LineNumbers>();
+    add<RestingCaret>();
     add<Z80Colouring>();
 
     connect(&box_, &TextBox::stylesReset, this, &DocumentAids::applyColours);
