@@ -26,7 +26,7 @@ QToolButton* button(FindBar* bar, const QString& name, const QString& text, cons
 FindBar::FindBar(QWidget* parent) : QWidget(parent), line_(new QLineEdit(this)), verdict_(new QLabel(this)) {
     setObjectName("findBar");
     line_->setObjectName("findText");
-    line_->setPlaceholderText("Find on this page");
+    line_->setPlaceholderText("Find in this text");
     line_->setClearButtonEnabled(true);
     verdict_->setObjectName("findVerdict");
     auto* previous = button(this, "findPrevious", "Previous", "Shift+F3");

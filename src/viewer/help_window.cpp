@@ -7,6 +7,7 @@
 #include "viewer/window_actions.h"
 
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QSplitter>
@@ -66,6 +67,7 @@ void HelpWindow::makeSide(QWidget* side) {
     words_->setObjectName("words");
     words_->setPlaceholderText("Search all pages (Ctrl+K)");
     words_->setClearButtonEnabled(true);
+    words_->installEventFilter(this);
     contents_->setObjectName("contents");
     contents_->setHeaderHidden(true);
     contents_->setRootIsDecorated(false);
@@ -91,6 +93,20 @@ void HelpWindow::makeSide(QWidget* side) {
     };
     connect(contents_, &QTreeWidget::itemClicked, this, openPage);
     connect(contents_, &QTreeWidget::itemActivated, this, openPage);
+}
+
+/// In the line for words, Down goes into the pages that were found and Escape brings the contents back.
+bool HelpWindow::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == words_ && event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        if (key == Qt::Key_Escape) words_->clear();
+        if (key == Qt::Key_Down && !hits_.empty()) {
+            results_->setFocus();
+            results_->setCurrentRow(0);
+            return true;
+        }
+    }
+    return QMainWindow::eventFilter(watched, event);
 }
 
 void HelpWindow::makeActions() {

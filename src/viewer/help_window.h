@@ -28,6 +28,8 @@ class HelpWindow : public QMainWindow {
   public:
     explicit HelpWindow(const std::string& html);
 
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
   private:
     void makeSide(QWidget* side);
     void makeActions();

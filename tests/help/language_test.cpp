@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The help names every directive, option and message of the assembler.
+#include "assembler/instruction_table.h"
 #include "assembler/words.h"
 #include "help/help_file.h"
 #include "runtime/files.h"
@@ -40,6 +41,11 @@ TEST(HelpLanguage, NamesEveryDirective) {
     }
     for (const char* sign : {"<code>$=</code>", "<code>*=</code>", "name <code>=</code> value"})
         EXPECT_TRUE(names(page("directives"), sign)) << sign;
+}
+
+TEST(HelpLanguage, NamesEveryInstruction) {
+    for (const std::string_view mnemonic : assembler::mnemonics())
+        EXPECT_TRUE(names(page("z80"), "<code>" + std::string(mnemonic) + "</code>")) << mnemonic;
 }
 
 TEST(HelpLanguage, NamesEveryDirectiveOfThePreprocessor) {
@@ -88,10 +94,15 @@ TEST(HelpLanguage, NamesEveryOptionOfTheCommand) {
         EXPECT_NE(page("command-line").text.find(one), std::string::npos) << one;
 }
 
-TEST(HelpLanguage, NamesEveryIncludeFile) {
+TEST(HelpLanguage, NamesEveryIncludeFileAndEveryExample) {
     for (const fs::directory_entry& entry : fs::directory_iterator(KAV_INCLUDE_FOLDER)) {
         const std::string name = entry.path().filename().string();
         EXPECT_TRUE(names(page("include-files"), "<code>" + name + "</code>")) << name;
+    }
+    for (const fs::directory_entry& entry : fs::directory_iterator(KAV_EXAMPLES_FOLDER)) {
+        const std::string name = entry.path().filename().string();
+        if (entry.path().extension() != ".z80") continue;
+        EXPECT_TRUE(names(page("examples"), "<code>" + name + "</code>")) << name;
     }
 }
 

@@ -130,6 +130,12 @@ TEST(HelpSamples, ProgramsRunAsTheirPagesSay) {
         EXPECT_EQ(picture.darkPixels(), 28);
         EXPECT_TRUE(picture.pixel(44 + 2, 28));
     }
+    Emulator nutshell(built("nutshell-program"), Shell::Asm);
+    ASSERT_EQ(nutshell.run(), Stop::WaitsForKey);
+    EXPECT_EQ(nutshell.screen(), "Hello\nHello\nHello\n\n\n\n\n\n");
+    nutshell.press({0x05});
+    EXPECT_EQ(nutshell.run(), Stop::Returned);
+
     Emulator macros(built("macro-program"), Shell::Asm);
     ASSERT_EQ(macros.run(), Stop::WaitsForKey);
     macros.press({0x05});

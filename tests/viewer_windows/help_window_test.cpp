@@ -166,6 +166,21 @@ TEST_F(Help, WordsTurnTheContentsIntoThePagesThatHaveThem) {
     EXPECT_TRUE(browser().extraSelections().isEmpty());
 }
 
+TEST_F(Help, KeysLeadFromTheWordsIntoTheFoundPagesAndBack) {
+    words().setFocus();
+    QTest::keyClicks(&words(), "help");
+    ASSERT_EQ(results().count(), 3);
+    QTest::keyClick(&words(), Qt::Key_Down);
+    EXPECT_TRUE(results().hasFocus());
+    QTest::keyClick(&results(), Qt::Key_Down);
+    QTest::keyClick(&results(), Qt::Key_Return);
+    EXPECT_EQ(results().currentRow(), 1);
+    EXPECT_NE(browser().page(), 0U);
+    QTest::keyClick(&words(), Qt::Key_Escape);
+    EXPECT_TRUE(contents().isVisible());
+    EXPECT_EQ(words().text(), "");
+}
+
 TEST_F(Help, TellsWhenNoPageHasTheWords) {
     QTest::keyClicks(&words(), "bogus");
     ASSERT_EQ(results().count(), 1);
