@@ -10,16 +10,8 @@ namespace kav::test {
 namespace {
 
 std::vector<Colour> coloursInText(const AidColours& colours) {
-    return {colours.text,
-            colours.mnemonic,
-            colours.registerName,
-            colours.directive,
-            colours.number,
-            colours.string,
-            colours.comment,
-            colours.label,
-            colours.matchedParenthesis,
-            colours.unmatchedParenthesis};
+    return {colours.text,   colours.mnemonic, colours.registerName, colours.directive,
+            colours.number, colours.string,   colours.comment,      colours.label};
 }
 
 void expectReadable(Colour paper, Colour ink) {
@@ -29,6 +21,8 @@ void expectReadable(Colour paper, Colour ink) {
         EXPECT_GE(contrastOf(colour, colours.currentLine), 4.5)
             << std::hex << colour << " on the current line " << colours.currentLine;
     }
+    EXPECT_GE(contrastOf(colours.matchedParenthesis, colours.matchedGround), 4.5) << std::hex << paper;
+    EXPECT_GE(contrastOf(colours.loneParenthesis, colours.loneGround), 4.5) << std::hex << paper;
     EXPECT_GE(contrastOf(colours.marginText, colours.marginPaper), 4.5) << std::hex << paper;
     EXPECT_GE(contrastOf(colours.errorMark, colours.marginPaper), 4.5) << std::hex << paper;
 }
@@ -65,8 +59,11 @@ TEST(AidColours, AreReadableOnAnyPaper) {
 
 TEST(AidColours, CanBeToldApart) {
     for (const auto& [paper, ink] : {std::pair(kWhite, kBlack), std::pair(rgb(42, 42, 42), kWhite)}) {
-        const std::vector<Colour> colours = coloursInText(aidColoursOn(paper, ink));
+        const AidColours all = aidColoursOn(paper, ink);
+        const std::vector<Colour> colours = coloursInText(all);
         EXPECT_EQ(std::set<Colour>(colours.begin(), colours.end()).size(), colours.size());
+        const std::set<Colour> grounds = {all.paper, all.currentLine, all.matchedGround, all.loneGround};
+        EXPECT_EQ(grounds.size(), 4U);
     }
 }
 

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "documents/aids/colour.h"
+#include "documents/aids/aid_colours.h"
 #include "documents/aids/margins.h"
 #include "documents/aids/resting_caret.h"
 #include "windows/main_window_fixture.h"
 
+#include <QImage>
 #include <QPalette>
+#include <QPixmap>
 #include <QTimer>
 
 namespace kav::test {
@@ -29,6 +31,26 @@ class DocumentAid : public MainWindow {
     }
     [[nodiscard]] long groundOfStyle(int style) {
         return box().SendScintilla(Sci::SCI_STYLEGETBACK, static_cast<uintptr_t>(style));
+    }
+
+    /// The colours that the text box is painted with.
+    [[nodiscard]] AidColours colours() {
+        const auto colour = [this](QPalette::ColorRole role) {
+            const QColor found = box().palette().color(QPalette::Active, role);
+            return rgb(static_cast<unsigned>(found.red()), static_cast<unsigned>(found.green()),
+                       static_cast<unsigned>(found.blue()));
+        };
+        return aidColoursOn(colour(QPalette::Base), colour(QPalette::Text));
+    }
+
+    /// The ground behind the character at that position, as painted.
+    [[nodiscard]] Colour paintedGroundAt(std::size_t position) {
+        const auto x = box().SendScintilla(Sci::SCI_POINTXFROMPOSITION, 0UL, static_cast<long>(position));
+        const auto y = box().SendScintilla(Sci::SCI_POINTYFROMPOSITION, 0UL, static_cast<long>(position));
+        const QImage picture = box().viewport()->grab().toImage();
+        const QColor pixel = picture.pixelColor(static_cast<int>(x) + 1, static_cast<int>(y) + 1);
+        return rgb(static_cast<unsigned>(pixel.red()), static_cast<unsigned>(pixel.green()),
+                   static_cast<unsigned>(pixel.blue()));
     }
 
     /// What a dark desktop does to a text box.
@@ -132,6 +154,52 @@ TEST_F(Z80Colours, StayWhenAHiddenTextTurnsItalic) {
     EXPECT_EQ(colourOfStyle(1), colour);
     for (int style = 0; style < 8; ++style)
         EXPECT_EQ(box().SendScintilla(Sci::SCI_STYLEGETITALIC, static_cast<uintptr_t>(style)), 1);
+}
+
+class CurrentLineGround : public DocumentAid {};
+
+TEST_F(CurrentLineGround, GoesWithTheCaret) {
+    box().setBytes("  one\r\n  two");
+    EXPECT_EQ(paintedGroundAt(0), colours().currentLine);
+    EXPECT_EQ(paintedGroundAt(7), colours().paper);
+    box().setSelStart(9);
+    EXPECT_EQ(paintedGroundAt(0), colours().paper);
+    EXPECT_EQ(paintedGroundAt(7), colours().currentLine);
+}
+
+TEST_F(CurrentLineGround, StaysWhileAnotherWindowHasTheKeyboard) {
+    box().setBytes("  one");
+    choose("newasm");
+    ASSERT_FALSE(documents().first()->txt().hasFocus());
+    documents().first()->takeFocus();
+    EXPECT_EQ(paintedGroundAt(0), colours().currentLine);
+    box().clearFocus();
+    EXPECT_EQ(paintedGroundAt(0), colours().currentLine);
+}
+
+class ParenthesisMark : public DocumentAid {};
+
+TEST_F(ParenthesisMark, StandsOnBothOfAPair) {
+    box().setBytes(" ld a,(hl)");
+    box().setSelStart(6);
+    EXPECT_EQ(paintedGroundAt(6), colours().matchedGround);
+    EXPECT_EQ(paintedGroundAt(9), colours().matchedGround);
+    box().setSelStart(2);
+    EXPECT_EQ(paintedGroundAt(6), colours().currentLine);
+}
+
+TEST_F(ParenthesisMark, TellsALoneOne) {
+    box().setBytes(" ld a,(hl");
+    box().setSelStart(6);
+    EXPECT_EQ(paintedGroundAt(6), colours().loneGround);
+    box().setSelStart(9);
+    QTest::keyClick(box().viewport(), Qt::Key_ParenRight);
+    EXPECT_EQ(paintedGroundAt(6), colours().matchedGround);
+}
+
+TEST_F(ParenthesisMark, LeavesALineOfMegabytesAlone) {
+    box().setBytes("(" + std::string(100'000, ' ') + ")");
+    EXPECT_EQ(paintedGroundAt(0), colours().currentLine) << "its partner is too far to be looked for";
 }
 
 class AidColouring : public DocumentAid {};

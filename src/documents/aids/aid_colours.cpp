@@ -18,8 +18,8 @@ struct Hues {
     Colour string;
     Colour comment;
     Colour label;
-    Colour matchedParenthesis;
-    Colour unmatchedParenthesis;
+    Colour match;
+    Colour mistake;
 };
 
 constexpr Hues kDarkHues = {
@@ -30,8 +30,8 @@ constexpr Hues kDarkHues = {
     .string = rgb(164, 36, 60),
     .comment = rgb(70, 112, 60),
     .label = rgb(106, 84, 16),
-    .matchedParenthesis = rgb(0, 90, 210),
-    .unmatchedParenthesis = rgb(200, 20, 20),
+    .match = rgb(0, 90, 210),
+    .mistake = rgb(200, 20, 20),
 };
 
 constexpr Hues kLightHues = {
@@ -42,8 +42,8 @@ constexpr Hues kLightHues = {
     .string = rgb(244, 140, 150),
     .comment = rgb(140, 180, 124),
     .label = rgb(224, 204, 120),
-    .matchedParenthesis = rgb(150, 200, 255),
-    .unmatchedParenthesis = rgb(255, 120, 110),
+    .match = rgb(150, 200, 255),
+    .mistake = rgb(255, 120, 110),
 };
 
 /// A ground lets black be read, or white, and most let only one.
@@ -52,11 +52,11 @@ Colour readableInk(Colour ink, Colour paper) {
     return contrastOf(kBlack, paper) > contrastOf(kWhite, paper) ? kBlack : kWhite;
 }
 
-/// The paper with up to `share` percent of ink in it, as much as leaves the ink readable.
-Colour tinted(Colour paper, Colour ink, unsigned share) {
-    while (share > 0 && contrastOf(ink, mixed(paper, ink, share)) < kReadableContrast)
+/// The paper with up to `share` percent of the tint in it, as much as leaves the ink readable.
+Colour tinted(Colour paper, Colour tint, unsigned share, Colour ink) {
+    while (share > 0 && contrastOf(ink, mixed(paper, tint, share)) < kReadableContrast)
         --share;
-    return mixed(paper, ink, share);
+    return mixed(paper, tint, share);
 }
 
 /// The hue, brought towards the ink until it can be read on all grounds.
@@ -77,10 +77,13 @@ Colour readable(Colour hue, Colour ink, std::initializer_list<Colour> grounds) {
 AidColours aidColoursOn(Colour paper, Colour ink) {
     constexpr unsigned kCurrentLineTint = 7;
     constexpr unsigned kMarginTint = 4;
+    constexpr unsigned kParenthesisTint = 25;
     const Colour text = readableInk(ink, paper);
-    const Colour currentLine = tinted(paper, text, kCurrentLineTint);
-    const Colour margin = tinted(paper, text, kMarginTint);
+    const Colour currentLine = tinted(paper, text, kCurrentLineTint, text);
+    const Colour margin = tinted(paper, text, kMarginTint, text);
     const Hues& hues = luminanceOf(text) > luminanceOf(paper) ? kLightHues : kDarkHues;
+    const Colour matched = tinted(paper, hues.match, kParenthesisTint, text);
+    const Colour lone = tinted(paper, hues.mistake, kParenthesisTint, text);
     const auto inText = [&](Colour hue) { return readable(hue, text, {paper, currentLine}); };
     return {
         .text = text,
@@ -93,11 +96,13 @@ AidColours aidColoursOn(Colour paper, Colour ink) {
         .string = inText(hues.string),
         .comment = inText(hues.comment),
         .label = inText(hues.label),
-        .matchedParenthesis = inText(hues.matchedParenthesis),
-        .unmatchedParenthesis = inText(hues.unmatchedParenthesis),
+        .matchedParenthesis = readable(hues.match, text, {matched}),
+        .matchedGround = matched,
+        .loneParenthesis = readable(hues.mistake, text, {lone}),
+        .loneGround = lone,
         .marginText = readable(mixed(text, paper, 45), text, {margin}),
         .marginPaper = margin,
-        .errorMark = readable(hues.unmatchedParenthesis, text, {margin}),
+        .errorMark = readable(hues.mistake, text, {margin}),
     };
 }
 

@@ -21,7 +21,9 @@ struct AidColours {
     Colour label;
 
     Colour matchedParenthesis;
-    Colour unmatchedParenthesis;
+    Colour matchedGround;  ///< of such a parenthesis
+    Colour loneParenthesis;
+    Colour loneGround;
 
     Colour marginText;
     Colour marginPaper;

@@ -2,7 +2,9 @@
 // All that helps to read a document's text.
 #include "documents/aids/document_aids.h"
 
+#include "documents/aids/current_line.h"
 #include "documents/aids/line_numbers.h"
+#include "documents/aids/matching_parentheses.h"
 #include "documents/aids/resting_caret.h"
 #include "documents/aids/z80_colouring.h"
 #include "documents/document_window.h"
@@ -26,6 +28,8 @@ DocumentAids::DocumentAids(Doc& document, Workspace& /*workspace*/) : box_(docum
     add<LineNumbers>();
     add<RestingCaret>();
     add<Z80Colouring>();
+    add<CurrentLine>();
+    add<MatchingParentheses>();
 
     connect(&box_, &TextBox::stylesReset, this, &DocumentAids::applyColours);
     box_.installEventFilter(this);

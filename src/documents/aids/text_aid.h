@@ -4,6 +4,8 @@
 
 #include "documents/aids/aid_colours.h"
 
+#include <string>
+
 #include <QObject>
 
 namespace kav {
@@ -21,6 +23,14 @@ class TextAid : public QObject {
     virtual void applyColours(const AidColours& /*colours*/) {}
 
   protected:
+    /// As much of a line as aids look at, without its end. Lines of a program are far shorter than what is
+    /// cut off; a line of megabytes stays cheap.
+    struct LineStart {
+        std::string text;
+        bool isCutOff;
+    };
+    [[nodiscard]] LineStart startOfLine(long line) const;
+
     TextBox& box_;
 };
 

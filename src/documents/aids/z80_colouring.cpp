@@ -12,13 +12,6 @@
 
 namespace kav {
 
-namespace {
-
-/// Bytes of a line that are coloured. Lines of a program are far shorter; a line of megabytes stays cheap.
-constexpr std::size_t kLongestColoured = 4096;
-
-}  // namespace
-
 Z80Colouring::Z80Colouring(TextBox& box) : TextAid(box) {
     connect(&box_, &QsciScintillaBase::SCN_STYLENEEDED, this, &Z80Colouring::colourLinesInView);
 }
@@ -52,12 +45,9 @@ void Z80Colouring::colourLinesInView() {
 }
 
 void Z80Colouring::colourLine(long line) {
-    const auto number = static_cast<uintptr_t>(line);
-    const auto begin =
-        static_cast<std::size_t>(box_.SendScintilla(QsciScintillaBase::SCI_POSITIONFROMLINE, number));
-    const auto end =
-        static_cast<std::size_t>(box_.SendScintilla(QsciScintillaBase::SCI_GETLINEENDPOSITION, number));
-    const std::string text = box_.bytesBetween(begin, std::min(end, begin + kLongestColoured));
+    const long begin =
+        box_.SendScintilla(QsciScintillaBase::SCI_POSITIONFROMLINE, static_cast<uintptr_t>(line));
+    const std::string text = startOfLine(line).text;
     std::string styles(text.size(), static_cast<char>(Z80Part::Plain));
     for (const Z80Token& token : z80PartsOf(text))
         styles.replace(token.begin, token.end - token.begin, token.end - token.begin,
