@@ -18,7 +18,13 @@ namespace kav {
 namespace {
 
 constexpr int kSmallestFont = 6;
+constexpr int kUsualFont = 12;
 constexpr int kLargestFont = 96;
+
+/// Points for the size that the preferences give. Zero is what a size that is no number reads as.
+int legibleSize(int size) {
+    return size < 1 ? kUsualFont : std::clamp(size, kSmallestFont, kLargestFont);
+}
 
 /// Alt with a letter is no text: it belongs to menus and window managers. With Control beside it, it is how
 /// some systems send a keyboard's third level, which is text.
@@ -132,7 +138,7 @@ void TextBox::replaceRange(std::size_t start, std::size_t length, std::string_vi
 void TextBox::setTextFont(const std::string& name, int size) {
     SendScintilla(SCI_STYLESETFONT, static_cast<uintptr_t>(STYLE_DEFAULT), name.c_str());
     SendScintilla(SCI_STYLESETSIZE, static_cast<uintptr_t>(STYLE_DEFAULT),
-                  static_cast<intptr_t>(std::clamp(size, kSmallestFont, kLargestFont)));
+                  static_cast<intptr_t>(legibleSize(size)));
     applyToAllStyles();
 }
 

@@ -50,7 +50,8 @@ class TextBox : public QsciScintilla {
     /// Replaces the whole text in one step of undo, the caret at `start` afterwards.
     void rewrite(std::string_view text, std::size_t start);
 
-    /// Font name and size in points; a size that cannot be read is brought within what can.
+    /// Font name and size in points; a size that nobody can read is brought within what can, and
+    /// one that is no number (0) is 12.
     void setTextFont(const std::string& name, int size);
     void setTextItalic(bool italic);
     void setTextBold(bool bold);

@@ -98,7 +98,7 @@ start_program
 change_settings "No Such Font" abc "$browser"
 end_at_once
 expect_lines 1 "DON'T TOUCHIE!!!!!!!!!!!!!" "No Such Font" abc
-printf 'this line of text is legible' >"$documents/legible.txt"
+printf ' this line of text is legible' >"$documents/legible.txt"
 LD_PRELOAD=$faketime FAKETIME="@2010-01-20 12:00:00" FAKETIME_DONT_FAKE_MONOTONIC=1 \
     ASAN_OPTIONS=verify_asan_link_order=0 start_noticed "$documents/legible.txt"
 wait_window "No Aliens? Or do they program Z80 too?"
@@ -106,7 +106,7 @@ expect_shown "That is pushing it. Aliens haven't landed yet? This won't appear a
 picture 2-notice
 key Return
 wait_window "KAV Compiler"
-expect_shown "this line of text is legible"
+expect_shown "line of text is legible" # the caret stands before it
 picture 3-bad-font
 visit_home_page
 expect_file "$opened" "my"$'\n'"browser"$'\n'"$home_page"$'\n'

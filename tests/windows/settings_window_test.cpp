@@ -92,7 +92,8 @@ TEST_F(SettingsWindow, BadValuesNeitherCrashNorHideTheTextAtTheNextStart) {
     box("fontse").setText("abc");
     press("Command1");
     restart();
-    EXPECT_GE(active().txt().SendScintilla(QsciScintilla::SCI_STYLEGETSIZE, QsciScintilla::STYLE_DEFAULT), 6);
+    EXPECT_EQ(active().txt().SendScintilla(QsciScintilla::SCI_STYLEGETSIZE, QsciScintilla::STYLE_DEFAULT),
+              12);
 }
 
 TEST_F(SettingsWindow, TheNextNormalExitPutsTheStartUpValuesBack) {

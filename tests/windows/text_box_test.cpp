@@ -79,6 +79,8 @@ TEST(TextBox, ASizeNobodyCanReadIsBroughtWithinWhatCan) {
         return box.SendScintilla(QsciScintillaBase::SCI_STYLEGETSIZE, QsciScintillaBase::STYLE_DEFAULT);
     };
     box.setTextFont("No Such Font", 0);
+    EXPECT_EQ(size(), 12);
+    box.setTextFont("No Such Font", 1);
     EXPECT_EQ(size(), 6);
     box.setTextFont("No Such Font", 32767);
     EXPECT_EQ(size(), 96);
