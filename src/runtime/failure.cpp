@@ -43,12 +43,29 @@ Failure failureOfErrno(int errorNumber, const std::string& about) {
         case ENOENT:
             return failureOf(kFileNotFound, about);
         case ENOTDIR:
+        // A network path that is gone.
+        case EHOSTUNREACH:
+        case ENETDOWN:
+        case ENETUNREACH:
+        case ENOTCONN:
+        case ETIMEDOUT:
+#ifdef EHOSTDOWN
+        case EHOSTDOWN:
+#endif
+#ifdef ESTALE
+        case ESTALE:
+#endif
             return failureOf(kPathNotFound, about);
         case EACCES:
         case EPERM:
         case EROFS:
             return failureOf(kPermissionDenied, about);
         case ENOSPC:
+        // No more room for this user, or for a file of this size.
+        case EFBIG:
+#ifdef EDQUOT
+        case EDQUOT:
+#endif
             return failureOf(kDiskFull, about);
         case ENAMETOOLONG:
         case EINVAL:

@@ -2,12 +2,17 @@
 // Files read and written whole, through the standard library.
 #include "runtime/files.h"
 
+#include "runtime/disk_flush.h"
 #include "runtime/failure.h"
 
 #include <cerrno>
+#include <chrono>
 #include <cstdio>
 #include <memory>
+#include <random>
 #include <system_error>
+#include <utility>
+#include <vector>
 
 namespace kav {
 
@@ -46,22 +51,97 @@ File open(const fs::path& path, const char* mode, const std::string& shownPath) 
     return file;
 }
 
-/// Writes and closes; a disk that is full may say so only when the file is closed.
-void writeAndClose(File file, std::string_view content, const std::string& shownPath) {
+/// Whether the new content has to be on the disk before it takes the old one's place.
+enum class Flush { No, Yes };
+
+/// Writes and closes; a disk that is full may say so only when the file is flushed or closed.
+void writeAndClose(File file, std::string_view content, const std::string& shownPath,
+                   Flush flush = Flush::No) {
     errno = 0;
-    const bool written = std::fwrite(content.data(), 1, content.size(), file.get()) == content.size();
+    const bool written = std::fwrite(content.data(), 1, content.size(), file.get()) == content.size() &&
+                         (flush == Flush::No || flushToDisk(*file));
+    const int writeError = errno;
     const bool closed = std::fclose(file.release()) == 0;
-    if (!written || !closed) throw failureOfErrno(errno, shownPath);
+    if (!written) throw failureOfErrno(writeError, shownPath);
+    if (!closed) throw failureOfErrno(errno, shownPath);
 }
 
-/// A name beside `target` that nobody uses.
-fs::path neighbourOf(const fs::path& target) {
-    std::error_code ignored;
-    for (int number = 0;; ++number) {
-        fs::path candidate = target;
-        candidate += ".new" + std::to_string(number);
-        if (!fs::exists(fs::symlink_status(candidate, ignored))) return candidate;
+constexpr std::string_view kNeighbourStart = ".kav-";
+constexpr std::string_view kNeighbourEnd = ".new";
+constexpr std::size_t kNeighbourDigits = 16;
+
+/// A name that no other program thinks of. It does not grow with the target's, which may be as long as
+/// names can be.
+std::string neighbourName() {
+    constexpr std::string_view kHexDigits = "0123456789abcdef";
+    std::random_device random;
+    std::string name(kNeighbourStart);
+    for (std::size_t i = 0; i < kNeighbourDigits; ++i)
+        name += kHexDigits[random() % kHexDigits.size()];
+    return name.append(kNeighbourEnd);
+}
+
+/// New content in a file beside its target, which goes again unless it takes the target's place.
+class Neighbour {
+  public:
+    Neighbour(fs::path target, std::string_view content, const std::string& shownPath, Flush flush)
+        : target_(std::move(target)), shownPath_(shownPath), flush_(flush) {
+        path_ = target_.parent_path() / neighbourName();
+        File file = open(path_, "wbx", shownPath);
+        try {
+            writeAndClose(std::move(file), content, shownPath, flush);
+        } catch (...) {
+            remove();
+            throw;
+        }
     }
+    ~Neighbour() { remove(); }
+    Neighbour(const Neighbour&) = delete;
+    Neighbour& operator=(const Neighbour&) = delete;
+
+    void setPermissions(fs::perms permissions) const {
+        std::error_code ignored;
+        fs::permissions(path_, permissions, ignored);
+    }
+
+    void takePlace() {
+        std::error_code error;
+        fs::rename(path_, target_, error);
+        if (error) throw openFailure(error.value(), shownPath_);
+        path_.clear();
+        if (flush_ == Flush::Yes) flushFolderToDisk(target_.parent_path());
+    }
+
+  private:
+    void remove() const {
+        std::error_code ignored;
+        if (!path_.empty()) fs::remove(path_, ignored);
+    }
+
+    fs::path target_;
+    fs::path path_;
+    const std::string& shownPath_;
+    Flush flush_;
+};
+
+void replaceFile(const std::string& path, std::string_view content, Flush flush) {
+    checkName(path);
+    std::error_code error;
+    fs::path target = pathOf(path);
+    if (fs::is_symlink(target, error)) target = fs::weakly_canonical(target, error);
+    const fs::file_status status = fs::status(target, error);
+    // Devices, pipes and folders are no files to be replaced by a rename.
+    if (fs::exists(status) && !fs::is_regular_file(status)) {
+        if (fs::is_directory(status)) throw failureOf(kPathFileAccess, path);
+        writeAndClose(open(target, "wb", path), content, path);
+        return;
+    }
+    // Renaming would pass over a write protection that opening respects.
+    if (fs::exists(status)) open(target, "ab", path);
+
+    Neighbour neighbour(target, content, path, flush);
+    if (fs::exists(status)) neighbour.setPermissions(status.permissions());
+    neighbour.takePlace();
 }
 
 }  // namespace
@@ -72,6 +152,11 @@ fs::path pathOf(std::string_view bytes) {
 #else
     return {std::string(bytes)};
 #endif
+}
+
+std::string folderOf(const std::string& path) {
+    const std::u8string folder = pathOf(path).parent_path().u8string();
+    return folder.empty() ? "." : std::string(folder.begin(), folder.end());
 }
 
 std::string readFile(const std::string& path) {
@@ -91,33 +176,55 @@ std::string readFile(const std::string& path) {
 }
 
 void writeFile(const std::string& path, std::string_view content) {
-    checkName(path);
-    std::error_code error;
-    fs::path target = pathOf(path);
-    if (fs::is_symlink(target, error)) target = fs::weakly_canonical(target, error);
-    const fs::file_status status = fs::status(target, error);
-    // Devices, pipes and folders are no files to be replaced by a rename.
-    if (fs::exists(status) && !fs::is_regular_file(status)) {
-        if (fs::is_directory(status)) throw failureOf(kPathFileAccess, path);
-        writeAndClose(open(target, "wb", path), content, path);
-        return;
-    }
-    // Renaming would pass over a write protection that opening respects.
-    if (fs::exists(status)) open(target, "ab", path);
+    replaceFile(path, content, Flush::No);
+}
 
-    const fs::path neighbour = neighbourOf(target);
+void saveFile(const std::string& path, std::string_view content) {
+    replaceFile(path, content, Flush::Yes);
+}
+
+bool saveNewFile(const std::string& path, std::string_view content) {
+    checkName(path);
+    if (fileExists(path)) return false;
+    Neighbour neighbour(pathOf(path), content, path, Flush::Yes);
     try {
-        writeAndClose(open(neighbour, "wb", path), content, path);
-    } catch (...) {
-        fs::remove(neighbour, error);
+        // Making the file is what only one program can; then its content moves in.
+        open(pathOf(path), "wbx", path);
+    } catch (const Failure&) {
+        if (fileExists(path)) return false;
         throw;
     }
-    if (fs::exists(status)) fs::permissions(neighbour, status.permissions(), error);
-    fs::rename(neighbour, target, error);
-    if (error) {
+    try {
+        neighbour.takePlace();
+    } catch (const Failure&) {
         std::error_code ignored;
-        fs::remove(neighbour, ignored);
-        throw failureOfErrno(error.value(), path);
+        fs::remove(pathOf(path), ignored);
+        throw;
+    }
+    return true;
+}
+
+bool isSaveLeftover(std::string_view name) {
+    return name.size() == kNeighbourStart.size() + kNeighbourDigits + kNeighbourEnd.size() &&
+           name.starts_with(kNeighbourStart) && name.ends_with(kNeighbourEnd);
+}
+
+void removeSaveLeftovers(const std::string& folder) {
+    // A younger one may be a save that another program is in the midst of.
+    constexpr std::chrono::hours kOldEnough{1};
+    std::error_code error;
+    std::vector<fs::path> found;
+    for (fs::directory_iterator entry(pathOf(folder), error), end; !error && entry != end;
+         entry.increment(error)) {
+        const std::u8string name = entry->path().filename().u8string();
+        if (isSaveLeftover({reinterpret_cast<const char*>(name.data()), name.size()})) {
+            found.push_back(entry->path());
+        }
+    }
+    const auto now = fs::file_time_type::clock::now();
+    for (const fs::path& leftover : found) {
+        const auto written = fs::last_write_time(leftover, error);
+        if (!error && now - written > kOldEnough) fs::remove(leftover, error);
     }
 }
 

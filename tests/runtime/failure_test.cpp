@@ -29,4 +29,13 @@ TEST(Failure, NumbersTheSystemsOwnErrors) {
     EXPECT_EQ(failureOfErrno(EIO, "x").number(), 75);
 }
 
+TEST(Failure, NumbersAVanishedNetworkPathAsAPathThatIsNotThere) {
+    for (const int error : {EHOSTUNREACH, ENETDOWN, ENETUNREACH, ENOTCONN, ETIMEDOUT})
+        EXPECT_EQ(failureOfErrno(error, "x").number(), 76) << error;
+}
+
+TEST(Failure, NumbersAFileThatHasNoRoomToGrowAsAFullDisk) {
+    EXPECT_EQ(failureOfErrno(EFBIG, "x").number(), 61);
+}
+
 }  // namespace kav

@@ -4,7 +4,9 @@
 #include "support/failure_number.h"
 #include "support/temporary_folder.h"
 
+#include <chrono>
 #include <gtest/gtest.h>
+#include <thread>
 
 namespace kav {
 
@@ -68,6 +70,49 @@ TEST_F(Files, FailuresHaveTheRuntimesNumbers) {
 TEST_F(Files, AFullDiskIsReportedAndIsNoLoss) {
     if (!fs::exists("/dev/full")) GTEST_SKIP() << "this system has no /dev/full";
     EXPECT_EQ(failureNumberOf([] { writeFile("/dev/full", "text"); }), 61);
+}
+
+TEST_F(Files, AreSavedUnderNamesAsLongAsNamesCanBe) {
+    const std::string name(255, 'n');
+    saveFile(folder_.file(name), "text");
+    EXPECT_EQ(readFile(folder_.file(name)), "text");
+}
+
+TEST_F(Files, AreMadeAnewOnlyUnderAFreeName) {
+    EXPECT_TRUE(saveNewFile(folder_.file("a"), "mine"));
+    EXPECT_FALSE(saveNewFile(folder_.file("a"), "another's"));
+    EXPECT_EQ(readFile(folder_.file("a")), "mine");
+    EXPECT_EQ(failureNumberOf([&] { (void)saveNewFile(folder_.file("none/a"), ""); }), 76);
+    EXPECT_EQ(std::distance(fs::directory_iterator(folder_.path()), fs::directory_iterator()), 1);
+}
+
+TEST_F(Files, OfTwoMakersAtOnceOneMakesIt) {
+    for (int round = 0; round < 50; ++round) {
+        const std::string path = folder_.file(std::to_string(round));
+        bool first = false;
+        bool second = false;
+        std::thread other([&] { second = saveNewFile(path, "second"); });
+        first = saveNewFile(path, "first");
+        other.join();
+        ASSERT_NE(first, second);
+        ASSERT_EQ(readFile(path), first ? "first" : "second");
+    }
+}
+
+TEST_F(Files, WhatAKilledSaveLeavesGoesOnceItIsOld) {
+    const std::string young = ".kav-0123456789abcdef.new";
+    const std::string old = ".kav-fedcba9876543210.new";
+    const std::string users = ".kav-notes.new";
+    for (const std::string& name : {young, old, users})
+        writeFile(folder_.file(name), "part");
+    const auto longAgo = fs::file_time_type::clock::now() - std::chrono::hours(2);
+    fs::last_write_time(folder_.file(old), longAgo);
+    fs::last_write_time(folder_.file(users), longAgo);
+    removeSaveLeftovers(folder_.path().string());
+    EXPECT_TRUE(fileExists(folder_.file(young)));
+    EXPECT_FALSE(fileExists(folder_.file(old)));
+    EXPECT_TRUE(fileExists(folder_.file(users)));
+    removeSaveLeftovers(folder_.file("none"));
 }
 
 TEST_F(Files, AreCopiedAndRemoved) {
