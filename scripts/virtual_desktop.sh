@@ -47,6 +47,8 @@ stop_desktop() {
     [ -z "${program:-}" ] || kill "$program" 2>/dev/null || true
     kill "$desktop_server" 2>/dev/null || true
     wait "$desktop_server" 2>/dev/null || true
+    # It may be writing yet what it keeps at its end.
+    [ -z "${program:-}" ] || wait "$program" 2>/dev/null || true
     rm -rf "$desktop_folder"
 }
 

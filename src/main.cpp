@@ -5,6 +5,7 @@
 #include "platform/desktop/desktop_file_chooser.h"
 #include "platform/desktop/desktop_services.h"
 #include "platform/desktop/text_conversion.h"
+#include "platform/linux/end_signals.h"
 #include "platform/linux/linux_class_registry.h"
 #include "platform/linux/linux_launcher.h"
 #include "platform/linux/users_folder.h"
@@ -64,9 +65,14 @@ int main(int argumentCount, char** arguments) {
     try {
         kav::Compiler compiler(
             {boxes, fileChooser, launcher, clipboard, clock, random, environment, registry}, folder);
+        QObject::connect(&application, &kav::Application::failing, &compiler, &kav::Compiler::keepCopies);
+        QObject::connect(&application, &QGuiApplication::commitDataRequest, &compiler,
+                         &kav::Compiler::keepCopies, Qt::DirectConnection);
         compiler.show();
         compiler.load(commandLineOf(argumentCount, arguments));
         if (compile) compiler.compileOnceUp();
+        const kav::EndSignals endSignals;
+        QObject::connect(&endSignals, &kav::EndSignals::received, &compiler, &kav::Compiler::endUnasked);
         return kav::Application::exec();
     } catch (const kav::Failure& failure) {
         kav::Application::endWithFailure(failure.description());

@@ -2,6 +2,9 @@
 // A document window's caption: its number and its name.
 #include "documents/caption.h"
 
+#include <algorithm>
+#include <charconv>
+
 namespace kav {
 
 namespace {
@@ -22,6 +25,20 @@ std::string captionName(std::string_view caption) {
 
 std::string captionWithName(std::string_view caption, std::string_view name) {
     return std::string(caption.substr(0, kPrefixLength)).append(name);
+}
+
+int captionNumber(std::string_view caption) {
+    int number = 0;
+    const std::string_view digits = caption.substr(std::min(kDigitAt, caption.size()));
+    std::from_chars(digits.data(), digits.data() + digits.size(), number);
+    return number;
+}
+
+std::string captionTrueName(std::string_view caption) {
+    const std::size_t behindNumber =
+        std::min(caption.find_first_not_of("0123456789", kDigitAt), caption.size());
+    if (behindNumber == caption.size() || caption[behindNumber] != '\t') return captionName(caption);
+    return std::string(caption.substr(behindNumber + 1));
 }
 
 int captionDigit(std::string_view caption) {

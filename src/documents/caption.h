@@ -19,6 +19,13 @@ inline constexpr std::string_view kUntitled = "Untitled";
 /// The caption's first six characters, followed by the name.
 [[nodiscard]] std::string captionWithName(std::string_view caption, std::string_view name);
 
+/// The document's whole number, 0 for a caption that has none.
+[[nodiscard]] int captionNumber(std::string_view caption);
+
+/// The document's true name: what follows the TAB, or the caption without its first six characters where
+/// saving under another name has taken the TAB of a document numbered 10 or above.
+[[nodiscard]] std::string captionTrueName(std::string_view caption);
+
 /// The fifth character's numeric value, 0 when it is no digit. Documents 1 and 10 to 19 all give 1.
 [[nodiscard]] int captionDigit(std::string_view caption);
 

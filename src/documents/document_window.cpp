@@ -38,7 +38,8 @@ void addClosingKey(QMenu& systemMenu) {
 
 }  // namespace
 
-Doc::Doc(Workspace& workspace) : workspace_(workspace), client_(new QWidget), txt_(new TextBox(client_)) {
+Doc::Doc(Workspace& workspace)
+    : workspace_(workspace), client_(new QWidget), txt_(new TextBox(client_)), recovery_(workspace, *this) {
     setObjectName("Doc");
     setAttribute(Qt::WA_DeleteOnClose);
     setWidget(client_);
@@ -136,7 +137,10 @@ void Doc::closeEvent(QCloseEvent* event) {
             return;
         }
         if (answer == BoxAnswer::Yes) workspace_.svenota();
+        if (answer == BoxAnswer::No) recovery_.textIsSafe();
     }
+    // A document closes whatever became of its saving.
+    recovery_.leave();
     --workspace_.values().openDocuments;
     event->accept();
 }

@@ -2,6 +2,8 @@
 // One open source file.
 #pragma once
 
+#include "documents/recovery_copy.h"
+
 #include <memory>
 #include <string>
 
@@ -35,6 +37,9 @@ class Doc : public QMdiSubWindow {
     /// The program name that this document was last built under.
     std::string Tag;
 
+    /// The copy of what is in no file yet.
+    [[nodiscard]] RecoveryCopy& recovery() { return recovery_; }
+
     /// Watches for the document number that the task list asks for, until it is taken or proves another's.
     void watchForRequest();
     [[nodiscard]] bool watchesForRequest() const { return Timer1.isActive(); }
@@ -57,6 +62,7 @@ class Doc : public QMdiSubWindow {
     std::unique_ptr<DocumentAids> aids_;
     QTimer Timer1;
     std::string caption_;
+    RecoveryCopy recovery_;
 };
 
 }  // namespace kav

@@ -15,10 +15,13 @@ namespace kav {
 
 namespace {
 
-/// Writes the document's text. What could not be written stays marked as modified, so that closing asks.
-void writeText(const std::string& path, const Doc& document) {
+/// Writes the document's text, which needs no copy then. What could not be written stays marked as modified,
+/// so that closing asks.
+void writeText(const std::string& path, Doc& document) {
     try {
-        writeFile(path, document.txt().bytes().append(kCrLf));
+        saveFile(path, document.txt().bytes().append(kCrLf));
+        document.recovery().textIsSafe();
+        removeSaveLeftovers(folderOf(path));
     } catch (const Failure&) {
         document.txt().Tag = "1";
         throw;

@@ -76,12 +76,23 @@ void filez::readFolder() {
     files->clear();
     const QDir folder(pathString(workspace_.applicationFolder().project()));
     const QStringList names = folder.entryList(QDir::Files | QDir::Hidden, QDir::Name | QDir::IgnoreCase);
-    files->addItems(names);
-    if (!names.isEmpty()) files->setCurrentRow(0);
+    for (const QString& name : names) {
+        if (!isSaveLeftover(pathBytes(name))) files->addItem(name);
+    }
+    files->setCurrentRow(0);
+}
+
+void filez::forget(const std::string& path) {
+    for (int row = files->count() - 1; row >= 0; --row) {
+        if (pathOfItem(files->item(row)) == path) delete files->takeItem(row);
+    }
 }
 
 std::string filez::currentPath() const {
-    const QListWidgetItem* item = files->currentItem();
+    return pathOfItem(files->currentItem());
+}
+
+std::string filez::pathOfItem(const QListWidgetItem* item) const {
     return workspace_.applicationFolder().project(item == nullptr ? std::string() : pathBytes(item->text()));
 }
 

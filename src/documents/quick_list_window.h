@@ -7,6 +7,7 @@
 #include <QWidget>
 
 class QListWidget;
+class QListWidgetItem;
 class QMenu;
 
 namespace kav {
@@ -25,6 +26,9 @@ class filez : public QWidget {
     /// Shows the window with the list as it is on disk, and brings it to the front.
     void showList();
 
+    /// Takes the file's entry from the list: the program itself has removed the file.
+    void forget(const std::string& path);
+
     /// The context menu's commands.
     void openquik_Click();
     void delete_inviso_Click();
@@ -41,6 +45,7 @@ class filez : public QWidget {
   private:
     bool files_KeyDown(int key);
     void readFolder();
+    [[nodiscard]] std::string pathOfItem(const QListWidgetItem* item) const;
     void openCurrentFile();
     /// Path of the current entry; the folder's own path when there is none.
     [[nodiscard]] std::string currentPath() const;

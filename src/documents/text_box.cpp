@@ -213,6 +213,7 @@ QMimeData* TextBox::toMimeData(const QByteArray& text, bool /*rectangular*/) con
 void TextBox::noteModification(int modificationType) {
     if ((modificationType & (SC_MOD_INSERTTEXT | SC_MOD_DELETETEXT)) == 0) return;
     Tag = "1";
+    emit touched();
     changeNotice_.start();
 }
 

@@ -69,6 +69,9 @@ class TextBox : public QsciScintilla {
     void paste() override;
 
   signals:
+    /// The text is being changed, by a key or by the program: it must be neither read nor changed within.
+    void touched();
+
     /// The text has changed, by a key or by the program. Sent once the change is complete.
     void changed();
 

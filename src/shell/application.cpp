@@ -16,6 +16,21 @@
 
 namespace kav {
 
+namespace {
+
+void keepWhatWasTyped() {
+    auto* application = qobject_cast<Application*>(QCoreApplication::instance());
+    if (application == nullptr) return;
+    try {
+        emit application->failing();
+    } catch (const std::exception&) {
+        // The failure that ends the program is the one to tell.
+        return;
+    }
+}
+
+}  // namespace
+
 Application::Application(int& argumentCount, char** arguments) : QApplication(argumentCount, arguments) {
     setApplicationName("kav-compiler");
     setWindowIcon(applicationIcon());
@@ -33,6 +48,7 @@ bool Application::notify(QObject* receiver, QEvent* event) {
 }
 
 void Application::endWithFailure(const std::string& message) {
+    keepWhatWasTyped();
     std::cerr << "kav-compiler: " << message << std::endl;
     QMessageBox box(QMessageBox::Critical, "KAV Compiler", shown(message), QMessageBox::Ok);
     box.setTextFormat(Qt::PlainText);

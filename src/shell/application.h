@@ -9,7 +9,7 @@
 namespace kav {
 
 /// Ends the program with a message when a failure leaves an event handler: a box where there is a desktop,
-/// a line on standard error in any case, and exit code 1. Nothing is written, the preferences file least.
+/// a line on standard error in any case, and exit code 1. The preferences file is not written.
 class Application : public QApplication {
     Q_OBJECT
 
@@ -20,6 +20,10 @@ class Application : public QApplication {
 
     /// Tells the failure and ends the process.
     [[noreturn]] static void endWithFailure(const std::string& message);
+
+  signals:
+    /// A failure ends the program: the last chance to keep what was typed.
+    void failing();
 };
 
 }  // namespace kav

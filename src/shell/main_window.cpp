@@ -41,6 +41,7 @@ Compiler::Compiler(Platform platform, ApplicationFolder applicationFolder)
       customTools_(*this),
       build_(*this, [this]() -> dbgr& { return taskList(); }),
       tools_(*this, *this),
+      recoveryWriter_([this](const std::string& path) { forgetCopy(path); }),
       documents_(new QMdiArea(this)) {
     setObjectName("Compiler");
     setWindowTitle("KAV Compiler by Tamsin Orrel");
@@ -106,6 +107,7 @@ void Compiler::newfile(const std::string& text) {
     document->setCaption(documentCaption(values_.documentCounter, values_.nextDocumentTitle));
     document->takeFocus();
     document->txt().Tag = "0";
+    document->recovery().textIsSafe();
     if (values_.gotoDocument != "0") document->watchForRequest();
 }
 
@@ -118,7 +120,10 @@ void Compiler::doerr(const std::string& handler, int number, const std::string& 
     const BoxAnswer answer =
         platform_.boxes.show({failureMessage(handler, number, description), kFailureTitle,
                               BoxIcon::Exclamation, BoxButtons::AbortRetryIgnore, BoxAnswer::Ignore});
-    if (answer == BoxAnswer::Abort) platform_.environment.endAtOnce(EXIT_FAILURE);
+    if (answer == BoxAnswer::Abort) {
+        keepCopies();
+        platform_.environment.endAtOnce(EXIT_FAILURE);
+    }
     if (answer != BoxAnswer::Retry) return;
     // The count is part of the line's form; nothing advances it.
     constexpr int kErrorCount = 0;
@@ -221,6 +226,27 @@ void Compiler::closeEvent(QCloseEvent* event) {
     event->accept();
 }
 
+void Compiler::endUnasked() {
+    keepCopies();
+    shutDown();
+}
+
+void Compiler::keepCopies() {
+    recoveryWriter_.finish();
+    for (QMdiSubWindow* window : documents_->subWindowList()) {
+        if (auto* document = qobject_cast<Doc*>(window)) document->recovery().writeChanges();
+    }
+    recoveryWriter_.finish();
+}
+
+void Compiler::forgetCopy(const std::string& path) {
+    // Copies are removed on the writer's thread, and the list lives on this one.
+    const auto forget = [this, path] {
+        if (quickList_ != nullptr) quickList_->forget(path);
+    };
+    QMetaObject::invokeMethod(this, forget, Qt::QueuedConnection);
+}
+
 bool Compiler::closeDocuments() {
     for (QMdiSubWindow* window : documents_->subWindowList()) {
         if (!window->close()) return false;
@@ -233,7 +259,7 @@ void Compiler::shutDown() {
     build_.comptime().stop();
     preferences_.usageSeconds = values_.usageSeconds;
     preferences_.recentFiles = recentFiles_.items();
-    writeFile(applicationFolder_.file("prefs.ini"), formatPreferences(preferences_));
+    saveFile(applicationFolder_.file("prefs.ini"), formatPreferences(preferences_));
     platform_.environment.end(EXIT_SUCCESS);
 }
 

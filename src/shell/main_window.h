@@ -5,6 +5,7 @@
 #include "build/build_commands.h"
 #include "documents/edit_commands.h"
 #include "documents/open_save_commands.h"
+#include "documents/recovery_writer.h"
 #include "documents/template_commands.h"
 #include "shell/help_commands.h"
 #include "shell/preferences_file.h"
@@ -49,11 +50,19 @@ class Compiler : public QMainWindow, public Workspace {
     /// Chooses Compile once the window is up.
     void compileOnceUp();
 
+    /// Writes what is in no file yet into the copies of its documents, before this returns. What cannot be
+    /// written keeps none of the others from it.
+    void keepCopies();
+
+    /// The end that the system asks for: nobody is asked, unsaved texts stay as copies.
+    void endUnasked();
+
     Platform& platform() override { return platform_; }
     const ApplicationFolder& applicationFolder() const override { return applicationFolder_; }
     SharedValues& values() override { return values_; }
     const Preferences& preferences() const override { return preferences_; }
     CommonDialog& cd() override { return cd_; }
+    RecoveryWriter& recoveryWriter() override { return recoveryWriter_; }
     Doc* activeDocument() override;
     void newfile(const std::string& text) override;
     void settop(const std::string& path) override;
@@ -105,6 +114,7 @@ class Compiler : public QMainWindow, public Workspace {
     void showCustomTools();
 
     bool closeDocuments();
+    void forgetCopy(const std::string& path);
     void shutDown();
 
     Platform platform_;
@@ -120,6 +130,7 @@ class Compiler : public QMainWindow, public Workspace {
     CustomToolCommands customTools_;
     BuildCommands build_;
     ToolCommands tools_;
+    RecoveryWriter recoveryWriter_;
 
     QMdiArea* documents_;
     QLabel* firstPanel_ = nullptr;

@@ -33,6 +33,8 @@ void Compiler::load(const std::string& commandLine) {
     readPreferences();
     sur.start();
     if (preferences_.firstRun) prepareFirstRun();
+    removeSaveLeftovers(applicationFolder_.path());
+    removeSaveLeftovers(applicationFolder_.project());
     if (commandLine.empty()) {
         openFirstDocument();
     } else {
@@ -71,6 +73,7 @@ void Compiler::openCommandLine(const std::string& commandLine) {
     // The window is titled with what the dialog last held, not with the path.
     values_.nextDocumentTitle = cd_.fileName;
     newfile(text);
+    activeDocument()->recovery().setOrigin(commandLine);
 }
 
 void Compiler::openFirstDocument() {

@@ -11,6 +11,7 @@
 namespace kav {
 
 class Doc;
+class RecoveryWriter;
 struct Preferences;
 
 /// Values that all documents and commands share. They live as long as the program runs.
@@ -42,6 +43,9 @@ class Workspace {
 
     /// The one common file dialog.
     virtual CommonDialog& cd() = 0;
+
+    /// Writes the copies of unsaved documents.
+    virtual RecoveryWriter& recoveryWriter() = 0;
 
     /// The document window that commands act on, or none.
     virtual Doc* activeDocument() = 0;

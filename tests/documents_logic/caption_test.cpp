@@ -31,6 +31,16 @@ TEST(Caption, AnswersToTheFirstDigitOfItsNumber) {
     EXPECT_EQ(captionDigit("Doc"), 0);
 }
 
+TEST(Caption, HasATrueNameAndAWholeNumber) {
+    EXPECT_EQ(captionTrueName("Doc 3\t/a.z80"), "/a.z80");
+    EXPECT_EQ(captionTrueName(documentCaption(123, "/a.z80")), "/a.z80");
+    EXPECT_EQ(captionTrueName("Doc 12/b.z80"), "/b.z80");
+    EXPECT_EQ(captionTrueName("Doc 1\t"), "");
+    EXPECT_EQ(captionTrueName("Doc"), "");
+    EXPECT_EQ(captionNumber(documentCaption(123, "x")), 123);
+    EXPECT_EQ(captionNumber("Doc"), 0);
+}
+
 TEST(Caption, IsShownWithBlanksForTheTab) {
     EXPECT_EQ(displayedCaption("Doc 3\t/a.z80"), "Doc 3    /a.z80");
 }
