@@ -84,6 +84,7 @@ void TextBox::setBytes(std::string_view text) {
     SendScintilla(SCI_EMPTYUNDOBUFFER);
     SendScintilla(SCI_GOTOPOS, 0UL);
     SendScintilla(SCI_SETMODEVENTMASK, told);
+    emit touched();
     emit linesChanged();
     sendChanged();
 }
