@@ -108,7 +108,7 @@ std::string_view includedName(Pass& pass, std::string_view text) {
 void include(Pass& pass, std::string_view text, bool once) {
     const std::string_view name = includedName(pass, text);
     if (name.empty()) {
-        pass.error("No terminating quote: a file name in quotes was expected, not " + shown(text));
+        pass.error("No terminating quote: a file name in quotes was expected, not " + shownOrNone(text));
         return;
     }
     const FoundSource found = pass.sources.openIncluded(name, *pass.file);
@@ -144,7 +144,7 @@ bool readParameters(Pass& pass, std::string_view& text, Macro& macro) {
     if (macro.parameters.size() == 1 && macro.parameters.front().empty()) macro.parameters.clear();
     for (const std::string& parameter : macro.parameters) {
         if (!parameter.empty() && firstName(pass, parameter) == parameter) continue;
-        pass.error("Invalid token where value expected: " + shown(parameter) +
+        pass.error("Invalid token where value expected: " + shownOrNone(parameter) +
                    " (a parameter's name was expected)");
         return false;
     }

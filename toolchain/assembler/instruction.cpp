@@ -149,8 +149,7 @@ void assembleInstruction(Pass& pass, std::string_view mnemonic, std::string_view
         }
     }
     if (form == nullptr) {
-        const std::string given = operandText.empty() ? "none" : shown(operandText);
-        pass.error("Unrecognized argument: " + given + " for " + shown(mnemonic) +
+        pass.error("Unrecognized argument: " + shownOrNone(operandText) + " for " + shown(mnemonic) +
                    expectedOperands(forms, operands[0].classes));
         return;
     }

@@ -131,7 +131,7 @@ void assembleOperation(Pass& pass, const Statement& statement) {
     const Macro* macro = pass.macros.findForUse(statement.operation, false);
     if (macro != nullptr && macro->hasLines) return callMacro(pass, *macro, statement.operands);
     if (pass.addedInstructions.knows(statement.operation)) {
-        pass.error("Unrecognized argument: " + shown(statement.operands) + " for " +
+        pass.error("Unrecognized argument: " + shownOrNone(statement.operands) + " for " +
                    shown(statement.operation));
         return;
     }

@@ -127,6 +127,10 @@ std::string shown(std::string_view text) {
     return result;
 }
 
+std::string shownOrNone(std::string_view text) {
+    return text.empty() ? "none" : shown(text);
+}
+
 std::string shownName(std::string_view name) {
     return "(" + shown(name) + ")";
 }

@@ -37,6 +37,9 @@ class ListReader {
 /// Source text as messages show it: on one line, at most 60 characters.
 [[nodiscard]] std::string shown(std::string_view text);
 
+/// The text as shown() has it, "none" where there is none.
+[[nodiscard]] std::string shownOrNone(std::string_view text);
+
 /// The name in capitals and parentheses, as messages name labels: "(START)".
 [[nodiscard]] std::string shownName(std::string_view name);
 
