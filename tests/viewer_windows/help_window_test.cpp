@@ -7,7 +7,9 @@
 #include <gtest/gtest.h>
 
 #include <QAction>
+#include <QApplication>
 #include <QBuffer>
+#include <QClipboard>
 #include <QImage>
 #include <QLineEdit>
 #include <QListWidget>
@@ -44,6 +46,7 @@ std::string sampleBook() {
                     "<li><a href=\"keys.html\">Keys</a></li></ul>"},
                    {"first.html",
                     "<h1>First steps</h1><p>Press <a href=\"keys.html#f1\">F1</a> for help.</p>"
+                    "<pre>start:\n        ld a,1  ; one\n\n\tret\n</pre>"
                     "<img src=\"pictures/one.png\" alt=\"One\"/>"},
                    {"keys.html", "<h1>Keys</h1>" + longText() + "<p id=\"f1\">F1 opens the help. Help!</p>"}};
     parts.pictures = {{"one.png", picture()}};
@@ -207,6 +210,15 @@ TEST_F(Help, FindsOnThePageForwardAndBackwardRoundItsEnds) {
     QTest::keyClick(text, Qt::Key_Escape);
     EXPECT_FALSE(text->isVisible());
     EXPECT_TRUE(browser().extraSelections().isEmpty());
+}
+
+TEST_F(Help, SourceIsCopiedWithItsBlanksAndLineBreaks) {
+    browser().showPage(1);
+    QTextCursor marked = browser().document()->find("start:");
+    marked.setPosition(browser().document()->find("ret", marked).position(), QTextCursor::KeepAnchor);
+    browser().setTextCursor(marked);
+    QTest::keyClick(&browser(), Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QApplication::clipboard()->text(), "start:\n        ld a,1  ; one\n\n\tret");
 }
 
 TEST_F(Help, LettersGrowAndShrinkAndComeBack) {
