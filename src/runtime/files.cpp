@@ -112,7 +112,36 @@ class Neighbour {
         if (flush_ == Flush::Yes) flushFolderToDisk(target_.parent_path());
     }
 
+    /// Takes the target's name if it is free. Of two programs that try at once, one succeeds.
+    bool takeFreePlace() {
+        std::error_code error;
+        fs::create_hard_link(path_, target_, error);
+        if (!error) {
+            if (flush_ == Flush::Yes) flushFolderToDisk(target_.parent_path());
+            return true;
+        }
+        return !fs::exists(fs::symlink_status(target_, error)) && takeClaimedPlace();
+    }
+
   private:
+    /// Where files cannot have two names, an empty one claims the place.
+    bool takeClaimedPlace() {
+        std::error_code ignored;
+        try {
+            open(target_, "wbx", shownPath_);
+        } catch (const Failure&) {
+            if (fs::exists(fs::symlink_status(target_, ignored))) return false;
+            throw;
+        }
+        try {
+            takePlace();
+        } catch (const Failure&) {
+            fs::remove(target_, ignored);
+            throw;
+        }
+        return true;
+    }
+
     void remove() const {
         std::error_code ignored;
         if (!path_.empty()) fs::remove(path_, ignored);
@@ -186,22 +215,7 @@ void saveFile(const std::string& path, std::string_view content) {
 bool saveNewFile(const std::string& path, std::string_view content) {
     checkName(path);
     if (fileExists(path)) return false;
-    Neighbour neighbour(pathOf(path), content, path, Flush::Yes);
-    try {
-        // Making the file is what only one program can; then its content moves in.
-        open(pathOf(path), "wbx", path);
-    } catch (const Failure&) {
-        if (fileExists(path)) return false;
-        throw;
-    }
-    try {
-        neighbour.takePlace();
-    } catch (const Failure&) {
-        std::error_code ignored;
-        fs::remove(pathOf(path), ignored);
-        throw;
-    }
-    return true;
+    return Neighbour(pathOf(path), content, path, Flush::Yes).takeFreePlace();
 }
 
 bool isSaveLeftover(std::string_view name) {

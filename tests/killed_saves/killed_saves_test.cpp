@@ -38,7 +38,6 @@ class KilledSaves : public testing::Test {
     /// and returns the number of the last text that it told to be kept.
     int saveAndKill(int first, std::chrono::microseconds after, int copies = 1) {
         QProcess program;
-        program.setProcessChannelMode(QProcess::ForwardedErrorChannel);
         program.start(KAV_SAVING_PROGRAM,
                       {QString::fromStdString(folder_.path().string()), QString::number(first)});
         QByteArray told;
@@ -47,7 +46,7 @@ class KilledSaves : public testing::Test {
         std::this_thread::sleep_for(after);
         program.kill();
         EXPECT_TRUE(program.waitForFinished(60000));
-        EXPECT_EQ(program.exitStatus(), QProcess::CrashExit);
+        EXPECT_EQ(program.exitStatus(), QProcess::CrashExit) << program.readAllStandardError().toStdString();
         const QList<QByteArray> lines = (told + program.readAllStandardOutput()).split('\n');
         return lines.value(lines.size() - 2).toInt();
     }

@@ -25,6 +25,7 @@ int main(int argumentCount, char** arguments) {
     QApplication::setStyle(new kav::DocumentFrameStyle);
     kav::test::ScriptedPlatform desktop;
     kav::Compiler compiler(desktop.platform(), kav::ApplicationFolder(arguments[1]));
+    compiler.show();
     compiler.load({});
     for (int number = std::atoi(arguments[2]);; ++number) {
         compiler.activeDocument()->txt().setBytes(kav::test::numberedText(number));

@@ -80,7 +80,9 @@ void Ledger::judge(const Entry& entry) {
 bool Ledger::inAFile(const std::string& text) const {
     for (const std::filesystem::path& folder : folders_) {
         for (const auto& file : std::filesystem::recursive_directory_iterator(folder)) {
-            if (!file.is_regular_file() || file.file_size() != text.size() + 2) continue;
+            // The program removes copies of unsaved texts while this looks.
+            std::error_code gone;
+            if (!file.is_regular_file(gone) || file.file_size(gone) != text.size() + 2) continue;
             if (readFile(file.path().string()) == text + "\r\n") return true;
         }
     }
