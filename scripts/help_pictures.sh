@@ -54,7 +54,7 @@ take_with_edges() {
     Y=$(xwininfo -id "$window" | awk '/Absolute upper-left Y/ { print $4 }')
     eval "$(xdotool getwindowgeometry --shell "$window" | grep -E '^(WIDTH|HEIGHT)=')"
     import -window root -crop "$((WIDTH + $2 + $3))x$((HEIGHT + $4 + $5))+$((X - $2))+$((Y - $4))" +repage \
-        -strip +dither -colors 64 -define png:compression-level=9 "png8:$pictures/$1.png"
+        -strip +dither -colors "${colours:-64}" -define png:compression-level=9 "png8:$pictures/$1.png"
 }
 
 # take_and_close NAME TITLE: a window once it is there, which Alt+F4 closes.
@@ -207,7 +207,7 @@ take_tools() {
         1,6 5,6 6,6 10,6 11,6 15,6 1,7 15,7 1,8 15,8 1,9 15,9 1,10 4,10 12,10 15,10 2,11 5,11 11,11 14,11 \
         2,12 6,12 7,12 8,12 9,12 10,12 14,12 3,13 13,13 4,14 5,14 11,14 12,14 6,15 7,15 8,15 9,15 10,15
     xdotool mousemove 5 5
-    take_and_close mirage-wizard "New MirageOS Program"
+    colours=24 take_and_close mirage-wizard "New MirageOS Program" # random rings do not compress
     key F12
     take_and_close custom-tools "Set Custom Tools"
     end_unsaved
