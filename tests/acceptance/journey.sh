@@ -74,7 +74,7 @@ legible() { tr -cd '[:alnum:]' <<<"$1" | tr '[:upper:]' '[:lower:]' | tr -s 'yi1
 shows() { [[ "$(legible "$(read_window ${2:+"$2"})")" == *"$(legible "$1")"* ]]; }
 
 # expect_shown TEXT [GEOMETRY]: fails when the window does not come to show it.
-expect_shown() { wait_until 5 shows "$@" || fail "'$1' is not shown, but: $(read_window ${2:+"$2"})"; }
+expect_shown() { wait_until 20 shows "$@" || fail "'$1' is not shown, but: $(read_window ${2:+"$2"})"; }
 
 # stub_browser: from now on, addresses that the program opens stand in the file $opened instead.
 stub_browser() {

@@ -88,7 +88,7 @@ expect_file "$application/Projects/game.kvf" $'start:\r\n;x x\r\n ld a,0\r\n LD 
 
 # What is saved closes without a word; the QuickList, shown anew, lists the new file.
 key ctrl+F4
-wait_until 5 gone "load c,2" || fail "the document did not close"
+wait_until 20 gone "load c,2" || fail "the document did not close"
 key F5 F5
 wait_window QuickList
 key Down Down Return

@@ -137,7 +137,7 @@ edit_with_the_mouse() {
     type_text "$documents/edit.z80"
     key Return
     wait_window "KAV Compiler"
-    expect_shown "one two"
+    expect_shown "ne two" # the caret stands before the first letter
     key shift+End
     press 175 # copy
     key End
