@@ -22,6 +22,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMdiArea>
 #include <QMenu>
@@ -215,6 +216,15 @@ void Compiler::sur_Timer() {
         // A survey that cannot be opened is not worth a word; the menu still offers it.
         return;
     }
+}
+
+bool Compiler::event(QEvent* event) {
+    // A document that is moved or sized by keys holds the mouse, which a dialog that comes up then needs.
+    if (event->type() == QEvent::WindowBlocked && qobject_cast<Doc*>(QWidget::mouseGrabber()) != nullptr) {
+        QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+        QCoreApplication::sendEvent(QWidget::mouseGrabber(), &escape);
+    }
+    return QMainWindow::event(event);
 }
 
 void Compiler::closeEvent(QCloseEvent* event) {

@@ -81,6 +81,7 @@ class Compiler : public QMainWindow, public Workspace {
     [[nodiscard]] QAction* menuItem(const std::string& name, int index = -1) const;
 
   protected:
+    bool event(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 
   private:

@@ -2,6 +2,8 @@
 #include "runtime/failure.h"
 #include "windows/main_window_fixture.h"
 
+#include <QDialog>
+#include <QMenu>
 #include <QScrollBar>
 
 namespace kav::test {
@@ -172,6 +174,17 @@ TEST_F(DocumentWindow, IconsAreArrangedAlongTheLowerEdge) {
     choose("arr", 3);
     EXPECT_EQ(document.pos().x(), 0);
     EXPECT_EQ(document.geometry().bottom() + 1, document.mdiArea()->viewport()->height());
+}
+
+TEST_F(DocumentWindow, ADialogTakesTheMouseFromADocumentThatIsSizedByKeys) {
+    for (QAction* entry : active().systemMenu()->actions()) {
+        if (entry->text() == "&Size") entry->trigger();
+    }
+    ASSERT_EQ(QWidget::mouseGrabber(), &active());
+    QDialog dialog(&compiler());
+    dialog.setModal(true);
+    dialog.show();
+    EXPECT_EQ(QWidget::mouseGrabber(), nullptr);
 }
 
 }  // namespace kav::test
