@@ -72,9 +72,11 @@ std::string BuildCommands::askForName(const std::string& defaultName) {
     }
 }
 
-void BuildCommands::startBuild(const std::string& name, const Doc& document) {
+void BuildCommands::startBuild(const std::string& name, Doc& document) {
     const ApplicationFolder& folder = workspace_.applicationFolder();
     if (!nameStaysInFolder(name)) throw failureOf(kBadFileName, name);
+    built_ = &document;
+    document.showErrors({});
     writeFile(statusFile(folder), kStatusRunning);
     writeFile(folder.file(name + ".z80"), buildSource(document.txt().bytes()));
     const std::string script = folder.file(std::string(kBatchFileName));
@@ -129,6 +131,7 @@ void BuildCommands::saveProgram(const char* title, const char* filter, const std
 
 void BuildCommands::fail() {
     workspace_.showStatus(kStatusErrors);
+    markErrors();
     const BoxAnswer answer =
         workspace_.platform().boxes.show({state_.programName + kErrorsQuestion, kErrorsTitle,
                                           BoxIcon::Question, BoxButtons::YesNoCancel, BoxAnswer::Yes});
@@ -137,6 +140,16 @@ void BuildCommands::fail() {
     const std::string viewer = workspace_.platform().environment.variable("windir") + "\\notepad.exe ";
     workspace_.platform().launcher.launch(viewer + listingFile(workspace_.applicationFolder()),
                                           WindowStyle::NormalFocus);
+}
+
+/// Marks nothing when the listing cannot be read: that is reported to those who ask for the errors.
+void BuildCommands::markErrors() {
+    if (built_.isNull()) return;
+    try {
+        built_->showErrors(listedErrors(readFile(listingFile(workspace_.applicationFolder()))));
+    } catch (const Failure&) {
+        return;
+    }
 }
 
 void BuildCommands::importErrors() {

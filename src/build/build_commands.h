@@ -7,6 +7,7 @@
 #include <functional>
 #include <string>
 
+#include <QPointer>
 #include <QTimer>
 
 namespace kav {
@@ -34,15 +35,17 @@ class BuildCommands {
     void request();
     void poll();
     std::string askForName(const std::string& defaultName);
-    void startBuild(const std::string& name, const Doc& document);
+    void startBuild(const std::string& name, Doc& document);
     void succeed();
     void saveProgram(const char* title, const char* filter, const std::string& extension);
     void fail();
+    void markErrors();
     void importErrors();
 
     Workspace& workspace_;
     std::function<dbgr&()> taskList_;
     BuildState state_;
+    QPointer<Doc> built_;  ///< the document that was built last, unless it is closed
     QTimer comptime_;
 };
 

@@ -65,6 +65,10 @@ bool Doc::isModified() const {
     return numericValue(txt_->Tag) == 1.0;
 }
 
+void Doc::showErrors(const std::vector<LineError>& errors) {
+    aids_->showErrors(errors);
+}
+
 void Doc::resizeEvent(QResizeEvent* event) {
     QMdiSubWindow::resizeEvent(event);
     fitTextBox();

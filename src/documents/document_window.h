@@ -6,6 +6,7 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 #include <QMdiSubWindow>
 #include <QTimer>
@@ -13,6 +14,7 @@
 namespace kav {
 
 class DocumentAids;
+struct LineError;
 class TextBox;
 class Workspace;
 
@@ -33,6 +35,9 @@ class Doc : public QMdiSubWindow {
     void setCaption(const std::string& caption);
 
     [[nodiscard]] bool isModified() const;
+
+    /// Marks the lines that a build found errors in; without errors, none.
+    void showErrors(const std::vector<LineError>& errors);
 
     /// The program name that this document was last built under.
     std::string Tag;

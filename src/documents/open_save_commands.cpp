@@ -37,20 +37,23 @@ void OpenSaveCommands::load_Click() {
         cd.title = kOpenTitle;
         cd.filter = kOpenFilter;
         cd.showOpen();
-        const std::string text = readFile(cd.fileName);
-        workspace_.settop(cd.fileName);
-        workspace_.values().nextDocumentTitle = cd.fileName;
-        workspace_.newfile(text);
+        open(cd.fileName);
     });
 }
 
+void OpenSaveCommands::openFile(const std::string& path) {
+    trapped(workspace_, "load_Click", [&] { open(path); });
+}
+
+void OpenSaveCommands::open(const std::string& path) {
+    const std::string text = readFile(path);
+    workspace_.settop(path);
+    workspace_.values().nextDocumentTitle = path;
+    workspace_.newfile(text);
+}
+
 void OpenSaveCommands::fil_Click(std::string path) {
-    trapped(workspace_, "fil_Click", [&] {
-        const std::string text = readFile(path);
-        workspace_.settop(path);
-        workspace_.values().nextDocumentTitle = path;
-        workspace_.newfile(text);
-    });
+    trapped(workspace_, "fil_Click", [&] { open(path); });
 }
 
 void OpenSaveCommands::svenotas_Click() {

@@ -16,6 +16,8 @@ class OpenSaveCommands {
     explicit OpenSaveCommands(Workspace& workspace) : workspace_(workspace) {}
 
     void load_Click();
+    /// Opens the file as Open does once it is chosen.
+    void openFile(const std::string& path);
     /// Opens the recent file of that path. The path is a copy: opening moves the list that it comes from.
     void fil_Click(std::string path);
     void svenotas_Click();
@@ -23,6 +25,7 @@ class OpenSaveCommands {
     void stpf_Click();
 
   private:
+    void open(const std::string& path);
     void save();
     void saveAs();
     void saveToProjects();

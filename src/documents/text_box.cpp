@@ -3,10 +3,12 @@
 #include "documents/text_box.h"
 
 #include "platform/desktop/clipboard_text.h"
+#include "platform/desktop/dropped_files.h"
 
 #include <algorithm>
 
 #include <QClipboard>
+#include <QDropEvent>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMimeData>
@@ -32,6 +34,13 @@ bool isAltWithLetter(const QKeyEvent& event) {
     const bool altAlone =
         event.modifiers().testFlag(Qt::AltModifier) && !event.modifiers().testFlag(Qt::ControlModifier);
     return altAlone && !event.text().isEmpty() && event.text().front().isPrint();
+}
+
+/// Leaves a drag of files to the windows around; false when it is none.
+bool leavesFiles(QDropEvent& event) {
+    if (droppedFiles(*event.mimeData()).isEmpty()) return false;
+    event.ignore();
+    return true;
 }
 
 }  // namespace
@@ -74,6 +83,7 @@ std::size_t TextBox::byteLength() const {
 }
 
 void TextBox::setBytes(std::string_view text) {
+    emit replacing();
     // The text box would tell of the modification with copies of the text, some of them converted.
     const auto told = static_cast<uintptr_t>(SendScintilla(SCI_GETMODEVENTMASK));
     SendScintilla(SCI_SETMODEVENTMASK, 0UL);
@@ -199,6 +209,40 @@ void TextBox::keyPressEvent(QKeyEvent* event) {
     } else {
         QsciScintilla::keyPressEvent(event);
     }
+}
+
+void TextBox::dragEnterEvent(QDragEnterEvent* event) {
+    if (!leavesFiles(*event)) QsciScintilla::dragEnterEvent(event);
+}
+
+void TextBox::dragMoveEvent(QDragMoveEvent* event) {
+    if (!leavesFiles(*event)) QsciScintilla::dragMoveEvent(event);
+}
+
+void TextBox::dropEvent(QDropEvent* event) {
+    if (leavesFiles(*event)) return;
+    // The text box's own way with dropped text changes line ends and stops at NUL bytes.
+    const std::string text = textOf(*event->mimeData());
+    const QPoint place = event->position().toPoint();
+    auto target = static_cast<std::size_t>(SendScintilla(
+        SCI_POSITIONFROMPOINT, static_cast<uintptr_t>(place.x()), static_cast<intptr_t>(place.y())));
+    const std::size_t start = selStart();
+    const std::size_t length = selLength();
+    const bool isMove = event->source() == this && event->proposedAction() == Qt::MoveAction;
+    QDragLeaveEvent noLongerOver;
+    QsciScintilla::dragLeaveEvent(&noLongerOver);
+    event->acceptProposedAction();
+    if (isMove && target >= start && target <= start + length) return;
+
+    SendScintilla(SCI_BEGINUNDOACTION);
+    if (isMove) {
+        replaceRange(start, length, {});
+        if (target > start) target -= length;
+    }
+    replaceRange(target, 0, text);
+    SendScintilla(SCI_ENDUNDOACTION);
+    setSelStart(target);
+    setSelLength(text.size());
 }
 
 QByteArray TextBox::fromMimeData(const QMimeData* source, bool& rectangular) const {

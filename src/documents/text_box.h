@@ -75,11 +75,18 @@ class TextBox : public QsciScintilla {
     /// The text has changed, by a key or by the program. Sent once the change is complete.
     void changed();
 
+    /// The whole text is about to be replaced by setBytes().
+    void replacing();
+
     /// The font has changed: all styles are alike again.
     void stylesReset();
 
   protected:
     void keyPressEvent(QKeyEvent* event) override;
+    // Files are for the window around the text.
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dragMoveEvent(QDragMoveEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
     // Dragged text, too, travels with its bytes.
     QByteArray fromMimeData(const QMimeData* source, bool& rectangular) const override;
     QMimeData* toMimeData(const QByteArray& text, bool rectangular) const override;

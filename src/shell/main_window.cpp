@@ -36,6 +36,7 @@ Compiler::Compiler(Platform platform, ApplicationFolder applicationFolder)
       applicationFolder_(std::move(applicationFolder)),
       cd_(platform_.fileChooser),
       openSave_(*this),
+      fileDrops_(*this, [this](const std::string& path) { openSave_.openFile(path); }),
       templates_(*this, [this](MirageKind kind) { tools_.showMirageWizard(kind); }),
       edit_(*this),
       help_(*this),

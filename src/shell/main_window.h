@@ -7,6 +7,7 @@
 #include "documents/open_save_commands.h"
 #include "documents/recovery_writer.h"
 #include "documents/template_commands.h"
+#include "shell/file_drops.h"
 #include "shell/help_commands.h"
 #include "shell/preferences_file.h"
 #include "shell/recent_files.h"
@@ -125,6 +126,7 @@ class Compiler : public QMainWindow, public Workspace {
     RecentFiles recentFiles_;
     CommonDialog cd_;
     OpenSaveCommands openSave_;
+    FileDrops fileDrops_;
     TemplateCommands templates_;
     EditCommands edit_;
     HelpCommands help_;

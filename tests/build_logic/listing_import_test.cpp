@@ -46,4 +46,26 @@ TEST(ListingImport, FindsNothingInAnEmptyListing) {
     EXPECT_EQ(importListing("", '1'), Tasks{});
 }
 
+using Errors = std::vector<LineError>;
+
+TEST(ListedErrors, AreTheSameWithLinesAsNumbers) {
+    EXPECT_EQ(listedErrors("temp.z80 has 2 errors:\r\ntemp.z80 line 0007: bad operand\r\n"
+                           "temp.z80 line 0012: Label not found: (x)\r\n"),
+              (Errors{{7, "bad operand"}, {12, "Label not found: (x)"}}));
+    EXPECT_EQ(listedErrors("temp.z80 line 0007: alone\r\n"), Errors{});
+    EXPECT_EQ(listedErrors(""), Errors{});
+}
+
+TEST(ListedErrors, ReadFarLinesFromTheMessage) {
+    EXPECT_EQ(listedErrors("temp\r\ntemp.z80 line 9999: line 12345: bad\r\n"),
+              (Errors{{12345, "line 12345: bad"}}));
+    EXPECT_EQ(listedErrors("temp\r\ntemp.z80 line 9999: line noise\r\n"), (Errors{{9999, "line noise"}}));
+    EXPECT_EQ(listedErrors("temp\r\ntemp.z80 line 0003: line 12: bad\r\n"), (Errors{{3, "line 12: bad"}}));
+    EXPECT_EQ(listedErrors("temp\r\ntemp.z80 line 9999: line 99999999999999999999: bad\r\n").size(), 1U);
+}
+
+TEST(ListedErrors, WithoutANumberHaveLineNought) {
+    EXPECT_EQ(listedErrors("temp\r\nwhatever\r\n"), (Errors{{0, "whatever"}}));
+}
+
 }  // namespace kav

@@ -3,6 +3,7 @@
 #include "documents/aids/document_aids.h"
 
 #include "documents/aids/current_line.h"
+#include "documents/aids/error_marks.h"
 #include "documents/aids/line_numbers.h"
 #include "documents/aids/matching_parentheses.h"
 #include "documents/aids/resting_caret.h"
@@ -30,10 +31,15 @@ DocumentAids::DocumentAids(Doc& document, Workspace& /*workspace*/) : box_(docum
     add<Z80Colouring>();
     add<CurrentLine>();
     add<MatchingParentheses>();
+    errorMarks_ = &add<ErrorMarks>();
 
     connect(&box_, &TextBox::stylesReset, this, &DocumentAids::applyColours);
     box_.installEventFilter(this);
     applyColours();
+}
+
+void DocumentAids::showErrors(const std::vector<LineError>& errors) {
+    errorMarks_->show(errors);
 }
 
 bool DocumentAids::eventFilter(QObject* watched, QEvent* event) {

@@ -13,13 +13,18 @@
 namespace kav {
 
 class Doc;
+class ErrorMarks;
 class TextBox;
 class Workspace;
+struct LineError;
 
 /// Owns the aids of one document, and hands them the desktop's colours. They are gone before its text box.
 class DocumentAids : public QObject {
   public:
     DocumentAids(Doc& document, Workspace& workspace);
+
+    /// Marks the lines that a build found errors in; without errors, none.
+    void showErrors(const std::vector<LineError>& errors);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -37,6 +42,7 @@ class DocumentAids : public QObject {
 
     TextBox& box_;
     std::vector<std::unique_ptr<TextAid>> aids_;
+    ErrorMarks* errorMarks_;  // one of them
 };
 
 }  // namespace kav
