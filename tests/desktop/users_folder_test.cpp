@@ -102,6 +102,8 @@ TEST_F(UsersFolder, FailsWhereItCannotBeMade) {
 TEST_F(UsersFolder, IsNeededForAProgramOfAPackageAndNotInOnesOwnFolder) {
     EXPECT_TRUE(isSharedFolder("/usr/lib/kav-compiler"));
     EXPECT_TRUE(isSharedFolder("/usr/local/lib/kav-compiler"));
+    // Even of root, who may write there: what root leaves in it would be handed on to the other users.
+    EXPECT_TRUE(isSharedFolder("/opt/kav"));
     EXPECT_TRUE(isSharedFolder(folder_.file("nowhere")));
     EXPECT_FALSE(isSharedFolder(folder_.path().string()));
     EXPECT_EQ(applicationFolderFor(folder_.file("lib/kav"), users("")), folder_.file("lib/kav"));

@@ -62,7 +62,7 @@ void removeStaleLinks(const fs::path& from, const fs::path& to) {
 }  // namespace
 
 bool isSharedFolder(const std::string& programFolder) {
-    for (const char* installed : {"/usr/lib", "/usr/local/lib"}) {
+    for (const char* installed : {"/usr/lib/", "/usr/local/lib/", "/opt/"}) {
         if (programFolder.starts_with(installed)) return true;
     }
     return !QFileInfo(pathString(programFolder)).isWritable();
