@@ -69,6 +69,8 @@ class FileTypes : public testing::Test {
         environment.insert("HOME", QString::fromStdString(home_.path().string()));
         environment.insert("XDG_DATA_HOME", QString::fromStdString(folders().data));
         environment.insert("XDG_CONFIG_HOME", QString::fromStdString(folders().configuration));
+        // Where the program itself is installed for all, its file types would be known to every home.
+        environment.insert("XDG_DATA_DIRS", QString::fromStdString(home_.file("nothing installed")));
         environment.insert("XDG_CURRENT_DESKTOP", "GNOME");
         QProcess process;
         process.setProcessEnvironment(environment);
