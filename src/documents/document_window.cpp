@@ -61,6 +61,12 @@ void Doc::setCaption(const std::string& caption) {
     setWindowTitle(shown(displayedCaption(caption)));
 }
 
+void Doc::setCaretStatus(const std::string& status) {
+    if (status == caretStatus_) return;
+    caretStatus_ = status;
+    emit caretStatusChanged();
+}
+
 bool Doc::isModified() const {
     return numericValue(txt_->Tag) == 1.0;
 }

@@ -45,12 +45,19 @@ class Doc : public QMdiSubWindow {
     /// The copy of what is in no file yet.
     [[nodiscard]] RecoveryCopy& recovery() { return recovery_; }
 
+    /// Where the caret is and what the selection costs, in words.
+    [[nodiscard]] const std::string& caretStatus() const { return caretStatus_; }
+    void setCaretStatus(const std::string& status);
+
     /// Watches for the document number that the task list asks for, until it is taken or proves another's.
     void watchForRequest();
     [[nodiscard]] bool watchesForRequest() const { return Timer1.isActive(); }
 
     /// Makes this the active document and puts the caret into its text.
     void takeFocus();
+
+  signals:
+    void caretStatusChanged();
 
   protected:
     void resizeEvent(QResizeEvent* event) override;
@@ -64,6 +71,7 @@ class Doc : public QMdiSubWindow {
     Workspace& workspace_;
     QWidget* client_;
     TextBox* txt_;
+    std::string caretStatus_;
     std::unique_ptr<DocumentAids> aids_;
     QTimer Timer1;
     std::string caption_;

@@ -115,6 +115,33 @@ std::string TextBox::selText() const {
     return {text + start, length};
 }
 
+TextPlace TextBox::placeOf(std::size_t position) const {
+    const long line = SendScintilla(SCI_LINEFROMPOSITION, static_cast<uintptr_t>(position));
+    const long start = SendScintilla(SCI_POSITIONFROMLINE, static_cast<uintptr_t>(line));
+    return {static_cast<int>(line), position - static_cast<std::size_t>(start)};
+}
+
+std::string TextBox::lineBytes(int line, std::size_t most) const {
+    const auto number = static_cast<uintptr_t>(line);
+    const long start = SendScintilla(SCI_POSITIONFROMLINE, number);
+    const long end = SendScintilla(SCI_GETLINEENDPOSITION, number);
+    if (start < 0 || end <= start || static_cast<std::size_t>(end - start) > most) return {};
+    std::string text(static_cast<std::size_t>(end - start), '\0');
+    // As for the whole text, a NUL is written behind the last byte.
+    SendScintilla(SCI_GETTEXTRANGE, start, end, text.data());
+    return text;
+}
+
+QPoint TextBox::pointAt(std::size_t position) const {
+    const auto at = static_cast<intptr_t>(position);
+    return {static_cast<int>(SendScintilla(SCI_POINTXFROMPOSITION, 0UL, at)),
+            static_cast<int>(SendScintilla(SCI_POINTYFROMPOSITION, 0UL, at))};
+}
+
+int TextBox::lineHeight() const {
+    return static_cast<int>(SendScintilla(SCI_TEXTHEIGHT, 0UL));
+}
+
 void TextBox::setSelStart(std::size_t start) {
     SendScintilla(SCI_GOTOPOS, static_cast<uintptr_t>(std::min(start, byteLength())));
 }

@@ -11,6 +11,12 @@
 
 namespace kav {
 
+/// A place in a text.
+struct TextPlace {
+    int line = 0;            ///< from 0
+    std::size_t column = 0;  ///< bytes from the start of the line
+};
+
 /// A multi-line text box whose content is bytes: CR LF counts two, every byte is kept, on the clipboard too.
 /// Positions are 0-based byte offsets.
 class TextBox : public QsciScintilla {
@@ -43,6 +49,18 @@ class TextBox : public QsciScintilla {
 
     /// Selects `length` bytes from selStart() on, up to the end of the text, and scrolls there.
     void setSelLength(std::size_t length);
+
+    /// The line and column of a byte offset.
+    [[nodiscard]] TextPlace placeOf(std::size_t position) const;
+
+    /// A line, from 0, without its line end; empty when it has more than `most` bytes.
+    [[nodiscard]] std::string lineBytes(int line, std::size_t most) const;
+
+    /// The left end of the caret at a byte offset, at the top of its line, in the viewport's pixels.
+    [[nodiscard]] QPoint pointAt(std::size_t position) const;
+
+    /// The height of a line in pixels.
+    [[nodiscard]] int lineHeight() const;
 
     /// Puts the text in place of the selection, the caret behind it.
     void replaceSelection(std::string_view text);

@@ -76,6 +76,18 @@ void Compiler::makeStatusBar() {
     // A long text must not widen the window.
     firstPanel_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     statusBar()->addWidget(firstPanel_, 1);
+    secondPanel_ = new QLabel(this);
+    secondPanel_->setObjectName("stat2");
+    secondPanel_->setTextFormat(Qt::PlainText);
+    // It has the room that its text needs, as far as the window has it.
+    secondPanel_->setMinimumWidth(1);
+    statusBar()->addWidget(secondPanel_);
+    connect(documents_, &QMdiArea::subWindowActivated, this, &Compiler::showCaretStatus);
+}
+
+void Compiler::showCaretStatus() {
+    const Doc* document = activeDocument();
+    secondPanel_->setText(document == nullptr ? QString() : shown(document->caretStatus()));
 }
 
 void Compiler::makeToolbarStrip() {
@@ -98,6 +110,7 @@ void Compiler::newfile(const std::string& text) {
     ++values_.openDocuments;
     auto* document = new Doc(*this);
     documents_->addSubWindow(document);
+    connect(document, &Doc::caretStatusChanged, this, &Compiler::showCaretStatus);
     for (const MenuEntry& entry : menuTable()) {
         if (!entry.shortcut.empty()) {
             document->txt().releaseKey(QKeySequence(shown(std::string(entry.shortcut))));

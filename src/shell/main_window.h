@@ -105,6 +105,7 @@ class Compiler : public QMainWindow, public Workspace {
     void addHelpHandlers();
     void addHandler(const std::string& name, Handler handler, int index = -1);
     void makeStatusBar();
+    void showCaretStatus();
     void makeToolbarStrip();
 
     void readPreferences();
@@ -137,6 +138,7 @@ class Compiler : public QMainWindow, public Workspace {
 
     QMdiArea* documents_;
     QLabel* firstPanel_ = nullptr;
+    QLabel* secondPanel_ = nullptr;
     QTimer sur;
     std::map<std::pair<std::string, int>, QAction*> menuItems_;
     std::map<std::pair<std::string, int>, Handler> handlers_;

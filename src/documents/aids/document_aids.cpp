@@ -2,10 +2,14 @@
 // All that helps to read a document's text.
 #include "documents/aids/document_aids.h"
 
+#include "documents/aids/caret_status.h"
+#include "documents/aids/code_hover.h"
+#include "documents/aids/completion_list.h"
 #include "documents/aids/current_line.h"
 #include "documents/aids/error_marks.h"
 #include "documents/aids/line_numbers.h"
 #include "documents/aids/matching_parentheses.h"
+#include "documents/aids/program_watch.h"
 #include "documents/aids/resting_caret.h"
 #include "documents/aids/z80_colouring.h"
 #include "documents/document_window.h"
@@ -25,13 +29,17 @@ Colour colourOf(const QColor& colour) {
 
 }  // namespace
 
-DocumentAids::DocumentAids(Doc& document, Workspace& /*workspace*/) : box_(document.txt()) {
+DocumentAids::DocumentAids(Doc& document, Workspace& workspace) : box_(document.txt()) {
     add<LineNumbers>();
     add<RestingCaret>();
     add<Z80Colouring>();
     add<CurrentLine>();
     add<MatchingParentheses>();
     errorMarks_ = &add<ErrorMarks>();
+    auto& program = add<ProgramWatch>(workspace);
+    add<CaretStatus>(document, program);
+    add<CodeHover>(program);
+    add<CompletionList>(program);
 
     connect(&box_, &TextBox::stylesReset, this, &DocumentAids::applyColours);
     box_.installEventFilter(this);
