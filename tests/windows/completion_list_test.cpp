@@ -3,6 +3,7 @@
 #include "runtime/files.h"
 #include "windows/main_window_fixture.h"
 
+#include <QApplication>
 #include <QListWidget>
 
 namespace kav::test {
@@ -178,6 +179,27 @@ TEST_F(CompletionListOf, WordsEndsWithTheKeyboardsFocus) {
     ASSERT_EQ(words(), "djnz");
     compiler().newfile("");
     EXPECT_EQ(words(), "");
+}
+
+TEST_F(CompletionListOf, WordsEndsWhenItsDocumentIsMoved) {
+    type(" dj");
+    ASSERT_EQ(words(), "djnz");
+    active().move(active().pos() + QPoint(10, 10));
+    EXPECT_EQ(words(), "");
+}
+
+TEST_F(CompletionListOf, WordsCanBeReadOnADarkDesktop) {
+    const QPalette light = QApplication::palette();
+    QApplication::setPalette(QPalette(QColor(50, 50, 50), QColor(30, 30, 30)));
+    QCoreApplication::processEvents();
+    type(" dj");
+    ASSERT_NE(list(), nullptr);
+    const QPalette& palette = list()->palette();
+    const QImage picture = list()->viewport()->grab().toImage();
+    EXPECT_EQ(picture.pixelColor(picture.width() - 1, 0), palette.color(QPalette::Base));
+    EXPECT_LT(palette.color(QPalette::Base).lightness(), 80);
+    EXPECT_GT(palette.color(QPalette::Text).lightness(), 170);
+    QApplication::setPalette(light);
 }
 
 TEST_F(CompletionListOf, WordsCanBeAskedFor) {

@@ -33,13 +33,21 @@ QListWidget* makeList(QWidget* parent) {
     return list;
 }
 
+/// The text box is no longer where it was, or no longer has the keyboard.
+bool takesTextAway(const QEvent& event) {
+    return event.type() == QEvent::FocusOut || event.type() == QEvent::Hide || event.type() == QEvent::Move ||
+           event.type() == QEvent::Resize;
+}
+
 }  // namespace
 
-CompletionList::CompletionList(TextBox& box, const ProgramWatch& program) : TextAid(box), program_(program) {
+CompletionList::CompletionList(TextBox& box, QWidget& document, const ProgramWatch& program)
+    : TextAid(box), document_(document), program_(program) {
     connect(&box_, &Sci::SCN_CHARADDED, this,
             [this] { offer(isShown() ? cause_ : CompletionCause::Typing); });
     connect(&box_, &Sci::SCN_UPDATEUI, this, &CompletionList::follow);
     box_.installEventFilter(this);
+    document.installEventFilter(this);
 }
 
 CompletionList::~CompletionList() {
@@ -50,7 +58,7 @@ bool CompletionList::eventFilter(QObject* watched, QEvent* event) {
     if (watched == &box_ && event->type() == QEvent::KeyPress && handleKey(*static_cast<QKeyEvent*>(event))) {
         return true;
     }
-    if (watched == &box_ && (event->type() == QEvent::FocusOut || event->type() == QEvent::Hide)) hide();
+    if ((watched == &box_ || watched == &document_) && takesTextAway(*event)) hide();
     return TextAid::eventFilter(watched, event);
 }
 

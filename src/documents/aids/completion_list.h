@@ -12,6 +12,7 @@
 
 class QKeyEvent;
 class QListWidget;
+class QWidget;
 
 namespace kav {
 
@@ -22,7 +23,8 @@ class ProgramWatch;
 /// list with Up or Down, or has asked for it; otherwise they end the list and do what they always do.
 class CompletionList : public TextAid {
   public:
-    CompletionList(TextBox& box, const ProgramWatch& program);
+    /// `document` is the window that the text box stands in.
+    CompletionList(TextBox& box, QWidget& document, const ProgramWatch& program);
     ~CompletionList() override;
 
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -39,6 +41,7 @@ class CompletionList : public TextAid {
     void move(int step);
     void accept();
 
+    const QWidget& document_;
     const ProgramWatch& program_;
     QPointer<QListWidget> list_;  // belongs to the window, which may be gone first
     CompletionCause cause_ = CompletionCause::Typing;

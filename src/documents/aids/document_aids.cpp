@@ -39,7 +39,7 @@ DocumentAids::DocumentAids(Doc& document, Workspace& workspace) : box_(document.
     auto& program = add<ProgramWatch>(workspace);
     add<CaretStatus>(document, program);
     add<CodeHover>(program);
-    add<CompletionList>(program);
+    add<CompletionList>(document, program);
 
     connect(&box_, &TextBox::stylesReset, this, &DocumentAids::applyColours);
     box_.installEventFilter(this);
