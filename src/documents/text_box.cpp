@@ -121,17 +121,6 @@ TextPlace TextBox::placeOf(std::size_t position) const {
     return {static_cast<int>(line), position - static_cast<std::size_t>(start)};
 }
 
-std::string TextBox::lineBytes(int line, std::size_t most) const {
-    const auto number = static_cast<uintptr_t>(line);
-    const long start = SendScintilla(SCI_POSITIONFROMLINE, number);
-    const long end = SendScintilla(SCI_GETLINEENDPOSITION, number);
-    if (start < 0 || end <= start || static_cast<std::size_t>(end - start) > most) return {};
-    std::string text(static_cast<std::size_t>(end - start), '\0');
-    // As for the whole text, a NUL is written behind the last byte.
-    SendScintilla(SCI_GETTEXTRANGE, start, end, text.data());
-    return text;
-}
-
 QPoint TextBox::pointAt(std::size_t position) const {
     const auto at = static_cast<intptr_t>(position);
     return {static_cast<int>(SendScintilla(SCI_POINTXFROMPOSITION, 0UL, at)),

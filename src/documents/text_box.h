@@ -53,9 +53,6 @@ class TextBox : public QsciScintilla {
     /// The line and column of a byte offset.
     [[nodiscard]] TextPlace placeOf(std::size_t position) const;
 
-    /// A line, from 0, without its line end; empty when it has more than `most` bytes.
-    [[nodiscard]] std::string lineBytes(int line, std::size_t most) const;
-
     /// The left end of the caret at a byte offset, at the top of its line, in the viewport's pixels.
     [[nodiscard]] QPoint pointAt(std::size_t position) const;
 

@@ -4,7 +4,6 @@
 
 #include "documents/aids/fact_texts.h"
 #include "documents/aids/program_watch.h"
-#include "documents/aids/source_line.h"
 #include "documents/text_box.h"
 #include "platform/desktop/text_conversion.h"
 
@@ -42,7 +41,7 @@ bool CodeHover::showFor(const QHelpEvent& event) {
         box_.SendScintilla(Sci::SCI_CHARPOSITIONFROMPOINTCLOSE, static_cast<uintptr_t>(event.x()), event.y());
     if (position < 0) return false;
     const TextPlace place = box_.placeOf(static_cast<std::size_t>(position));
-    const std::string line = box_.lineBytes(place.line, kLongestReadLine);
+    const std::string line = startOfLine(place.line).text;
     const HoverText hover = hoverTextAt(line, place.line + 1, place.column, program_.current());
     if (hover.text.empty()) return false;
 

@@ -3,7 +3,6 @@
 #include "documents/aids/completion_list.h"
 
 #include "documents/aids/program_watch.h"
-#include "documents/aids/source_line.h"
 #include "documents/text_box.h"
 #include "platform/desktop/text_conversion.h"
 
@@ -65,7 +64,7 @@ bool CompletionList::eventFilter(QObject* watched, QEvent* event) {
 void CompletionList::offer(CompletionCause cause) {
     const auto caret = static_cast<std::size_t>(box_.SendScintilla(Sci::SCI_GETCURRENTPOS));
     const TextPlace place = box_.placeOf(caret);
-    const std::string line = box_.lineBytes(place.line, kLongestReadLine);
+    const std::string line = startOfLine(place.line).text;
     Completions completions = completionsAt(line, place.column, program_.latest(), cause);
     if (completions.words.empty() || box_.selLength() > 0) return hide();
     cause_ = cause;

@@ -8,9 +8,6 @@
 
 namespace kav {
 
-/// Longer lines, in bytes, are not looked into: nobody writes them by hand.
-inline constexpr std::size_t kLongestReadLine = 4096;
-
 /// What a piece of a line is, as far as its place in the line tells.
 enum class PieceKind {
     Label,  ///< a name that the line defines: in column 1, in front of a colon, or behind #define or #macro
