@@ -8,6 +8,7 @@
 #include "build/program_name.h"
 #include "documents/document_window.h"
 #include "documents/text_box.h"
+#include "platform/batch_file.h"
 #include "platform/dos_path.h"
 #include "runtime/failure.h"
 #include "runtime/files.h"

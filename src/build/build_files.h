@@ -16,7 +16,6 @@ struct BuildState {
 };
 
 inline constexpr std::string_view kStatusFileName = "errLog.txt";
-inline constexpr std::string_view kBatchFileName = "comp.bat";
 inline constexpr std::string_view kListingFileName = "temp.lst";
 
 /// The status file's content while the script runs: the verdict "2" and CR LF.

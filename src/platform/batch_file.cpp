@@ -31,11 +31,6 @@ bool isDriveRoot(std::string_view line) {
     return (letter >= 'A' && letter <= 'Z') || (letter >= 'a' && letter <= 'z');
 }
 
-std::string nameOf(const fs::path& path) {
-    const auto name = path.filename().u8string();
-    return {name.begin(), name.end()};
-}
-
 std::vector<std::string_view> segmentsOf(std::string_view changeDirectory) {
     std::vector<std::string_view> segments;
     std::string_view rest = changeDirectory.substr(kChangeDirectory.size());
@@ -48,7 +43,7 @@ std::vector<std::string_view> segmentsOf(std::string_view changeDirectory) {
 }
 
 bool fits(const fs::path& folder, std::string_view segment) {
-    const std::string name = nameOf(folder);
+    const std::string name = bytesOf(folder.filename());
     return name == segment || shortFolderName(name) == segment;
 }
 
@@ -72,7 +67,7 @@ std::vector<fs::path> fittingFolders(const fs::path& parent, std::string_view se
     for (; !error && entries != fs::directory_iterator(); entries.increment(error)) {
         if (fits(entries->path(), segment) && isFolder(entries->path())) found.push_back(entries->path());
     }
-    if (error) throw failureOfErrno(error.value(), parent.string());
+    if (error) throw failureOfCode(error, bytesOf(parent));
     return found;
 }
 
@@ -85,7 +80,7 @@ fs::path resolveSegment(const fs::path& parent, std::string_view segment, const 
     if (isFolder(exact)) return exact;
 
     const std::vector<fs::path> found = fittingFolders(parent, segment);
-    const std::string wanted = exact.string();
+    const std::string wanted = bytesOf(exact);
     if (found.empty()) throw failureOf(kPathNotFound, wanted);
     if (found.size() > 1) throw failureOf(kPathNotFound, wanted + " could be more than one folder");
     return found.front();

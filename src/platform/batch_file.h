@@ -8,6 +8,9 @@
 
 namespace kav {
 
+/// The build script's name in the application folder.
+inline constexpr std::string_view kBatchFileName = "comp.bat";
+
 /// The three lines of a build script.
 struct BatchFile {
     std::string drive;            ///< "Z:\"

@@ -4,7 +4,6 @@
 
 #include <array>
 #include <cerrno>
-#include <system_error>
 #include <utility>
 
 namespace kav {
@@ -75,6 +74,12 @@ Failure failureOfErrno(int errorNumber, const std::string& about) {
             return failureOf(kPathFileAccess, about + " (" + reason + ")");
         }
     }
+}
+
+Failure failureOfCode(const std::error_code& error, const std::string& about) {
+    const std::error_condition condition = error.default_error_condition();
+    if (condition.category() == std::generic_category()) return failureOfErrno(condition.value(), about);
+    return failureOf(kPathFileAccess, about + " (" + error.message() + ")");
 }
 
 }  // namespace kav

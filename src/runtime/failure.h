@@ -4,6 +4,7 @@
 
 #include <stdexcept>
 #include <string>
+#include <system_error>
 
 namespace kav {
 
@@ -41,5 +42,9 @@ enum FailureNumber : int {
 
 /// The failure that a C library call left in errno, as the runtime would number it.
 [[nodiscard]] Failure failureOfErrno(int errorNumber, const std::string& about);
+
+/// The failure that the standard library tells in an error code, which may be the system's own and not
+/// errno's.
+[[nodiscard]] Failure failureOfCode(const std::error_code& error, const std::string& about);
 
 }  // namespace kav

@@ -183,9 +183,15 @@ fs::path pathOf(std::string_view bytes) {
 #endif
 }
 
+std::string bytesOf(const fs::path& path) {
+    // Unlike `string`, this is UTF-8 where paths are wide, and the bytes themselves elsewhere.
+    const std::u8string bytes = path.u8string();
+    return {bytes.begin(), bytes.end()};
+}
+
 std::string folderOf(const std::string& path) {
-    const std::u8string folder = pathOf(path).parent_path().u8string();
-    return folder.empty() ? "." : std::string(folder.begin(), folder.end());
+    const std::string folder = bytesOf(pathOf(path).parent_path());
+    return folder.empty() ? "." : folder;
 }
 
 std::string readFile(const std::string& path) {
@@ -230,10 +236,7 @@ void removeSaveLeftovers(const std::string& folder) {
     std::vector<fs::path> found;
     for (fs::directory_iterator entry(pathOf(folder), error), end; !error && entry != end;
          entry.increment(error)) {
-        const std::u8string name = entry->path().filename().u8string();
-        if (isSaveLeftover({reinterpret_cast<const char*>(name.data()), name.size()})) {
-            found.push_back(entry->path());
-        }
+        if (isSaveLeftover(bytesOf(entry->path().filename()))) found.push_back(entry->path());
     }
     const auto now = fs::file_time_type::clock::now();
     for (const fs::path& leftover : found) {
@@ -256,7 +259,7 @@ void removeFile(const std::string& path) {
     std::error_code error;
     if (fs::is_directory(fs::symlink_status(pathOf(path), error))) throw failureOf(kPathFileAccess, path);
     if (fs::remove(pathOf(path), error)) return;
-    throw error ? failureOfErrno(error.value(), path) : failureOf(kFileNotFound, path);
+    throw error ? failureOfCode(error, path) : failureOf(kFileNotFound, path);
 }
 
 void makeFolder(const std::string& path) {
@@ -264,8 +267,8 @@ void makeFolder(const std::string& path) {
     std::error_code error;
     if (fs::create_directory(pathOf(path), error)) return;
     if (fileExists(path)) throw failureOf(kPathFileAccess, path);
-    if (error.value() == ENOENT) throw failureOf(kPathNotFound, path);
-    throw failureOfErrno(error.value(), path);
+    if (error == std::errc::no_such_file_or_directory) throw failureOf(kPathNotFound, path);
+    throw failureOfCode(error, path);
 }
 
 bool fileExists(const std::string& path) {

@@ -11,6 +11,9 @@ namespace kav {
 /// The path that the bytes name: UTF-8 on Windows, the bytes themselves elsewhere.
 [[nodiscard]] std::filesystem::path pathOf(std::string_view bytes);
 
+/// The bytes that name the path, as pathOf takes them.
+[[nodiscard]] std::string bytesOf(const std::filesystem::path& path);
+
 /// The folder that the path lies in, "." for a bare name.
 [[nodiscard]] std::string folderOf(const std::string& path);
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Assembles one golden source and compares what comes out with the files beside it: `.bin` for the bytes,
+// Assembles golden sources and compares what comes out with the files beside each: `.bin` for the bytes,
 // `.err` for the errors ("line: message"), `.lst` for the listing. Sources called strict-... are assembled
 // without extensions.
 #include "assembler/assembler.h"
@@ -56,11 +56,7 @@ bool matches(const fs::path& expectation, const std::string& actual, bool needed
     return false;
 }
 
-}  // namespace
-
-int main(int argc, char** argv) {
-    if (argc != 2) return 2;
-    const fs::path source(argv[1]);
+bool isAsExpected(const fs::path& source) {
     kav::assembler::DiskSourceFiles files({});
     kav::assembler::Options options;
     options.wantListing = true;
@@ -77,6 +73,18 @@ int main(int argc, char** argv) {
         good = matches(beside(".bin"), bytes, bytesNeeded, true) && good;
     } else if (errorsExpected || !isListingPair) {
         good = matches(beside(".err"), errorsOf(result), true, false) && good;
+    }
+    return good;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    bool good = argc > 1;
+    for (int i = 1; i < argc; ++i) {
+        if (isAsExpected(argv[i])) continue;
+        std::cout << argv[i] << " is not assembled as expected\n";
+        good = false;
     }
     return good ? 0 : 1;
 }

@@ -56,7 +56,7 @@ TEST_F(ShortPath, LeadsToTheFolderThatTheScriptWasWrittenFor) {
     for (const char* name :
          {"Tools", "My Tools", "a b/Long Folder Name/x", "Development", "\xC3\xA9 \xC3\xA9"}) {
         const fs::path folder = make(name);
-        const std::string below = "/" + folder.lexically_relative(root_.path()).string();
+        const std::string below = "/" + folder.lexically_relative(root_.path()).generic_string();
         EXPECT_EQ(resolved(changeDirectoryLine(dosForm(below)), folder), folder) << name;
     }
 }
@@ -93,7 +93,6 @@ TEST_F(ShortPath, LeavesAnOpenChoiceToNobody) {
 TEST_F(ShortPath, FindsNoFilesAndNoMissingFolders) {
     make("Tools");
     EXPECT_EQ(failureNumberOf([&] { (void)resolved("cd\\Nothing\\", "/elsewhere"); }), 76);
-    EXPECT_EQ(failureNumberOf([&] { (void)resolved("cd\\tools\\", "/elsewhere"); }), 76);
     EXPECT_EQ(failureNumberOf([&] { (void)resolved("cd\\..\\", "/elsewhere"); }), 5);
     EXPECT_EQ(failureNumberOf([&] { (void)resolved("Tools", "/elsewhere"); }), 5);
 }
@@ -106,6 +105,13 @@ TEST_F(ShortPath, LeadsNowhereButDown) {
                                     std::string("cd\\Tools/inner\\"), std::string("cd\\Tools\0x\\", 11)}) {
         EXPECT_EQ(failureNumberOf([&] { (void)resolved(line, "/elsewhere"); }), 5) << line;
     }
+}
+
+TEST_F(ShortPath, KeepsTheCaseOfNamesWhereItMatters) {
+    make("Tools");
+    if (fs::exists(root_.path() / "tools"))
+        GTEST_SKIP() << "names that differ in case alone are the same here";
+    EXPECT_EQ(failureNumberOf([&] { (void)resolved("cd\\tools\\", "/elsewhere"); }), 76);
 }
 
 TEST_F(ShortPath, OfTheRootIsTheRoot) {

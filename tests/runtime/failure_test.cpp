@@ -2,6 +2,7 @@
 #include "runtime/failure.h"
 
 #include <cerrno>
+#include <future>
 #include <gtest/gtest.h>
 
 namespace kav {
@@ -36,6 +37,26 @@ TEST(Failure, NumbersAVanishedNetworkPathAsAPathThatIsNotThere) {
 
 TEST(Failure, NumbersAFileThatHasNoRoomToGrowAsAFullDisk) {
     EXPECT_EQ(failureOfErrno(EFBIG, "x").number(), 61);
+}
+
+TEST(Failure, NumbersTheLibrarysErrors) {
+    EXPECT_EQ(failureOfCode(std::make_error_code(std::errc::permission_denied), "x").number(), 70);
+    EXPECT_EQ(failureOfCode(std::make_error_code(std::errc::no_space_on_device), "x").number(), 61);
+    // The library's own errors are none of the system's.
+    EXPECT_EQ(failureOfCode(std::make_error_code(std::future_errc::no_state), "x").number(), 75);
+}
+
+// Numbers that the system gives are errno's on one system and others elsewhere.
+TEST(Failure, NumbersErrorsInTheSystemsOwnCount) {
+#ifdef _WIN32
+    constexpr int kAccessDenied = 5;
+    constexpr int kPathNotFoundThere = 3;
+#else
+    constexpr int kAccessDenied = EACCES;
+    constexpr int kPathNotFoundThere = ENOENT;
+#endif
+    EXPECT_EQ(failureOfCode({kAccessDenied, std::system_category()}, "x").number(), 70);
+    EXPECT_EQ(failureOfCode({kPathNotFoundThere, std::system_category()}, "x").number(), 53);
 }
 
 }  // namespace kav

@@ -2,7 +2,7 @@
 // Which calculators' programs a build's verdict counts.
 #pragma once
 
-#include "program_file/program_file.h"
+#include "program_file/calculators.h"
 
 #include <optional>
 #include <string_view>

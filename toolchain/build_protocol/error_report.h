@@ -2,7 +2,7 @@
 // The errors of a build, as they stand at the end of the listing.
 #pragma once
 
-#include "program_file/program_file.h"
+#include "program_file/calculators.h"
 
 #include <string>
 #include <vector>

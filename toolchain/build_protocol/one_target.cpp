@@ -3,6 +3,7 @@
 #include "build_protocol/one_target.h"
 
 #include "assembler/assembler.h"
+#include "program_file/program_file.h"
 
 #include <cstdio>
 #include <exception>

@@ -3,7 +3,6 @@
 #pragma once
 
 #include "build_protocol/error_report.h"
-#include "program_file/program_file.h"
 
 #include <cstddef>
 #include <string>

@@ -6,7 +6,6 @@
 #include "runtime/files.h"
 
 #include <algorithm>
-#include <array>
 #include <cstdio>
 #include <filesystem>
 #include <memory>
@@ -21,26 +20,9 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr std::uint8_t kProtectedProgram = 0x06;
-constexpr std::size_t kLengthWord = 2;
-constexpr std::size_t kLongestName = 8;
 
-struct CalculatorFacts {
-    Calculator calculator;
-    CalcModel model;
-    const char* name;
-    const char* extension;
-    unsigned programStart;  // where programs run
-    unsigned symbolTable;   // where the table of variables begins
-};
-
-constexpr std::array<CalculatorFacts, 2> kCalculators{{
-    {Calculator::Ti83, CALC_TI83, "TI-83", ".83p", 0x9327, 0xFE6E},
-    {Calculator::Ti83Plus, CALC_TI83P, "TI-83 Plus", ".8xp", 0x9D95, 0xFE66},
-}};
-
-const CalculatorFacts& factsOf(Calculator calculator) {
-    return *std::find_if(kCalculators.begin(), kCalculators.end(),
-                         [&](const CalculatorFacts& facts) { return facts.calculator == calculator; });
+CalcModel modelOf(Calculator calculator) {
+    return calculator == Calculator::Ti83 ? CALC_TI83 : CALC_TI83P;
 }
 
 struct ContentDeleter {
@@ -65,38 +47,10 @@ Content newContent(CalcModel model) {
     return content;
 }
 
-/// The text with every byte that is no printable ASCII character as \xNN, so that a message stays one line.
-std::string printable(std::string_view text) {
-    std::string result;
-    for (const char character : text) {
-        if (character >= ' ' && character <= '~') {
-            result += character;
-            continue;
-        }
-        char escaped[8];
-        std::snprintf(escaped, sizeof escaped, "\\x%02X", static_cast<unsigned char>(character));
-        result += escaped;
-    }
-    return result;
-}
-
-bool isLetter(char character) {
-    return (character >= 'A' && character <= 'Z') || (character >= 'a' && character <= 'z');
-}
-
-bool isDigit(char character) {
-    return character >= '0' && character <= '9';
-}
-
-[[noreturn]] void throwBadName(std::string_view name, const std::string& why) {
-    throw ProgramFileError("Program name \"" + printable(name) + "\" " + why +
-                           ": a program name is 1 to 8 letters and digits and begins with a letter");
-}
-
-void checkSize(const CalculatorFacts& facts, std::size_t size) {
-    const std::size_t limit = largestProgram(facts.calculator);
+void checkSize(Calculator calculator, std::size_t size) {
+    const std::size_t limit = largestProgram(calculator);
     if (size <= limit) return;
-    throw ProgramFileError("Program too large for the " + std::string(facts.name) + ": it has " +
+    throw ProgramFileError("Program too large for the " + displayName(calculator) + ": it has " +
                            std::to_string(size) + " bytes, " + std::to_string(limit) + " is the limit");
 }
 
@@ -119,41 +73,12 @@ Calculator calculatorOf(CalcModel model) {
 
 }  // namespace
 
-std::string displayName(Calculator calculator) {
-    return factsOf(calculator).name;
-}
-
-std::string programExtension(Calculator calculator) {
-    return factsOf(calculator).extension;
-}
-
-std::size_t largestProgram(Calculator calculator) {
-    const CalculatorFacts& facts = factsOf(calculator);
-    return facts.symbolTable - facts.programStart - kLengthWord;
-}
-
-std::string calculatorName(std::string_view programName) {
-    if (programName.empty()) throwBadName(programName, "is empty");
-    if (programName.size() > kLongestName) throwBadName(programName, "is too long");
-    if (!isLetter(programName.front())) throwBadName(programName, "does not begin with a letter");
-    std::string name;
-    for (const char character : programName) {
-        if (!isLetter(character) && !isDigit(character)) {
-            throwBadName(programName, "holds \"" + printable({&character, 1}) + "\"");
-        }
-        const bool small = character >= 'a' && character <= 'z';
-        name += static_cast<char>(small ? character - 'a' + 'A' : character);
-    }
-    return name;
-}
-
 void writeProgram(const std::string& path, std::string_view programName, Calculator calculator,
                   const std::vector<std::uint8_t>& code) {
     const std::string name = calculatorName(programName);
-    const CalculatorFacts& facts = factsOf(calculator);
-    checkSize(facts, code.size());
+    checkSize(calculator, code.size());
 
-    const Content content = newContent(facts.model);
+    const Content content = newContent(modelOf(calculator));
     // The library puts the time here; without it the same source gives the same file.
     std::fill(std::begin(content->comment), std::end(content->comment), '\0');
     std::snprintf(content->comment, sizeof content->comment, "Made with KAV Compiler");
@@ -166,7 +91,7 @@ void writeProgram(const std::string& path, std::string_view programName, Calcula
     if (error == 0 && !renaming) return;
     std::error_code ignored;
     fs::remove(pathOf(neighbour), ignored);
-    throw error != 0 ? failureOf(kPathFileAccess, path) : failureOfErrno(renaming.value(), path);
+    throw error != 0 ? failureOf(kPathFileAccess, path) : failureOfCode(renaming, path);
 }
 
 Program readProgram(const std::string& path) {

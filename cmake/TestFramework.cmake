@@ -1,0 +1,13 @@
+# GoogleTest as GTest::gtest and GTest::gtest_main: the system's, or for another system built from Debian's sources.
+if(CMAKE_CROSSCOMPILING)
+    set(INSTALL_GTEST OFF)
+    set(BUILD_GMOCK OFF)
+    add_subdirectory(/usr/src/googletest ${CMAKE_BINARY_DIR}/googletest EXCLUDE_FROM_ALL)
+    if(NOT TARGET GTest::gtest)
+        add_library(GTest::gtest ALIAS gtest)
+        add_library(GTest::gtest_main ALIAS gtest_main)
+    endif()
+else()
+    find_package(GTest REQUIRED)
+    include(GoogleTest)
+endif()
