@@ -8,12 +8,13 @@ namespace kav {
 
 ApplicationFolder::ApplicationFolder(std::string path) : path_(std::move(path)) {
     separator_ = path_.find('/') == std::string::npos && path_.find('\\') != std::string::npos ? '\\' : '/';
-    // The root folder alone ends in a separator, which joining adds again.
-    if (path_.size() > 1 && path_.back() == separator_) path_.pop_back();
+    // A root alone ends in a separator: "/", "C:\\".
+    const bool isRoot = path_.size() == 1 || (path_.size() == 3 && path_[1] == ':');
+    if (!isRoot && path_.ends_with(separator_)) path_.pop_back();
 }
 
 std::string ApplicationFolder::file(const std::string& name) const {
-    return path_ + separator_ + name;
+    return path_.ends_with(separator_) ? path_ + name : path_ + separator_ + name;
 }
 
 std::string ApplicationFolder::project(const std::string& name) const {
