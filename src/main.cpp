@@ -4,11 +4,7 @@
 #include "platform/desktop/desktop_environment.h"
 #include "platform/desktop/desktop_file_chooser.h"
 #include "platform/desktop/desktop_services.h"
-#include "platform/desktop/text_conversion.h"
-#include "platform/linux/end_signals.h"
-#include "platform/linux/linux_class_registry.h"
-#include "platform/linux/linux_launcher.h"
-#include "platform/linux/users_folder.h"
+#include "platform/native_services.h"
 #include "platform/published_class.h"
 #include "runtime/failure.h"
 #include "shell/application.h"
@@ -39,9 +35,7 @@ bool takeCompileRequest() {
 
 kav::ApplicationFolder applicationFolder() {
     try {
-        return kav::ApplicationFolder(
-            kav::applicationFolderFor(kav::pathBytes(QCoreApplication::applicationDirPath()),
-                                      kav::UserFolders::ofUser().programData()));
+        return kav::usersApplicationFolder();
     } catch (const kav::Failure& failure) {
         kav::Application::endWithFailure(failure.description());
     }
@@ -54,25 +48,24 @@ int main(int argumentCount, char** arguments) {
     // The toolkit takes its own options out of the line first.
     kav::Application application(argumentCount, arguments);
     const kav::ApplicationFolder folder = applicationFolder();
+    const kav::NativeServices native = kav::nativeServices(folder);
     kav::DesktopBoxes boxes;
     kav::DesktopFileChooser fileChooser;
-    kav::LinuxLauncher launcher(folder);
     kav::DesktopClipboard clipboard;
     kav::SystemClock clock;
     kav::SeededRandomNumbers random;
     kav::DesktopEnvironment environment;
-    kav::LinuxClassRegistry registry(kav::UserFolders::ofUser());
     try {
         kav::Compiler compiler(
-            {boxes, fileChooser, launcher, clipboard, clock, random, environment, registry}, folder);
+            {boxes, fileChooser, *native.launcher, clipboard, clock, random, environment, *native.registry},
+            folder);
         QObject::connect(&application, &kav::Application::failing, &compiler, &kav::Compiler::keepCopies);
         QObject::connect(&application, &QGuiApplication::commitDataRequest, &compiler,
                          &kav::Compiler::keepCopies, Qt::DirectConnection);
         compiler.show();
         compiler.load(commandLineOf(argumentCount, arguments));
         if (compile) compiler.compileOnceUp();
-        const kav::EndSignals endSignals;
-        QObject::connect(&endSignals, &kav::EndSignals::received, &compiler, &kav::Compiler::endUnasked);
+        const kav::EndWatch endWatch = kav::watchForEnd([&compiler] { compiler.endUnasked(); });
         return kav::Application::exec();
     } catch (const kav::Failure& failure) {
         kav::Application::endWithFailure(failure.description());

@@ -6,6 +6,7 @@
 #include "platform/class_registry.h"
 #include "platform/process_launcher.h"
 
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -20,8 +21,16 @@ struct NativeServices {
 /// This system's services, for the program in the folder.
 [[nodiscard]] NativeServices nativeServices(const ApplicationFolder& folder);
 
-/// The folder of the program file, in this system's form. The application object has to be there already.
-[[nodiscard]] ApplicationFolder programFolder();
+/// The application folder of whoever has started the program, in this system's form: the program file's own,
+/// or one of the user's where users share that. The toolkit's application object has to be there already.
+/// Raises 75 when the folder cannot be made.
+[[nodiscard]] ApplicationFolder usersApplicationFolder();
+
+/// Watches as long as it lives.
+using EndWatch = std::shared_ptr<void>;
+
+/// Calls `end` when the system asks the program to end at once, in a way that the toolkit does not pass on.
+[[nodiscard]] EndWatch watchForEnd(const std::function<void()>& end);
 
 /// The environment variable's value; empty when it is not set.
 [[nodiscard]] std::string environmentVariable(const std::string& name);

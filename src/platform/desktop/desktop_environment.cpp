@@ -3,6 +3,7 @@
 #include "platform/desktop/desktop_environment.h"
 
 #include "platform/desktop/text_conversion.h"
+#include "platform/native_services.h"
 
 #include <cstdlib>
 
@@ -13,7 +14,7 @@
 namespace kav {
 
 std::string DesktopEnvironment::variable(const std::string& name) {
-    return qgetenv(name.c_str()).toStdString();
+    return environmentVariable(name);
 }
 
 std::string DesktopEnvironment::desktopFolder() {

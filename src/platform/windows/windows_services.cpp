@@ -11,8 +11,12 @@ NativeServices nativeServices(const ApplicationFolder& folder) {
     return {std::make_unique<WindowsLauncher>(folder), std::make_unique<WindowsClassRegistry>()};
 }
 
-ApplicationFolder programFolder() {
+ApplicationFolder usersApplicationFolder() {
     return windowsProgramFolder();
+}
+
+EndWatch watchForEnd(const std::function<void()>& /*end*/) {
+    return {};  // the toolkit passes on what this system asks
 }
 
 std::string environmentVariable(const std::string& name) {
