@@ -51,7 +51,8 @@ bool fits(const fs::path& folder, std::string_view segment) {
 bool isFolderName(std::string_view segment) {
     constexpr std::string_view kNoPartOfAName("/\0", 2);
     return segment != "." && segment != ".." &&
-           segment.find_first_of(kNoPartOfAName) == std::string_view::npos;
+           segment.find_first_of(kNoPartOfAName) == std::string_view::npos &&
+           !pathOf(segment).has_root_name();
 }
 
 bool isFolder(const fs::path& path) {

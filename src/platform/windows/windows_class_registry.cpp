@@ -3,6 +3,7 @@
 // closed to the one who runs the program.
 #include "platform/windows/windows_class_registry.h"
 
+#include <shlobj.h>
 #include <string>
 
 namespace kav {
@@ -65,6 +66,10 @@ void WindowsClassRegistry::setDefaultValue(const std::string& key, const std::st
     if (!opened) return;
     const auto* const bytes = reinterpret_cast<const BYTE*>(value.c_str());
     RegSetValueExA(opened.handle(), kDefaultValue, 0, REG_SZ, bytes, static_cast<DWORD>(value.size() + 1));
+}
+
+void WindowsClassRegistry::announceChanges() {
+    SHChangeNotify(SHCNE_ASSOCCHANGED, SHCNF_IDLIST, nullptr, nullptr);
 }
 
 void WindowsClassRegistry::deleteDefaultValue(const std::string& key) {

@@ -20,6 +20,7 @@ class WindowsClassRegistry : public ClassRegistry {
     std::string defaultValue(const std::string& key) override;
     void createKey(const std::string& key) override;
     void setDefaultValue(const std::string& key, const std::string& value) override;
+    void announceChanges() override;
 
     /// Removes the key's default value, for an uninstaller; the key stays.
     void deleteDefaultValue(const std::string& key);

@@ -4,8 +4,7 @@
 
 #include "platform/windows/wide_text.h"
 #include "platform/windows/windows_api.h"
-
-#include <stdexcept>
+#include "runtime/failure.h"
 
 namespace kav {
 
@@ -25,7 +24,7 @@ ApplicationFolder windowsProgramFolder() {
     std::wstring path(MAX_PATH, L'\0');
     for (;;) {
         const DWORD length = GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size()));
-        if (length == 0) throw std::runtime_error("the system does not tell where the program is");
+        if (length == 0) throw failureOf(kPathFileAccess, "the system does not tell where the program is");
         if (length < path.size()) {
             path.resize(length);
             break;

@@ -11,8 +11,8 @@ namespace kav {
 /// The environment variable's value in UTF-8; empty when it is not set.
 [[nodiscard]] std::string windowsVariable(const std::string& name);
 
-/// The folder of the program file, with backslashes ("C:\Program Files\KAV"). Throws std::runtime_error when
-/// the system does not tell it.
+/// The folder of the program file, with backslashes ("C:\Program Files\KAV"). Raises 75 when the
+/// system does not tell it.
 [[nodiscard]] ApplicationFolder windowsProgramFolder();
 
 }  // namespace kav
