@@ -13,6 +13,11 @@
 #include <system_error>
 #include <utility>
 #include <vector>
+#ifdef _WIN32
+#include <fcntl.h>
+#include <io.h>
+#include <sys/stat.h>
+#endif
 
 namespace kav {
 
@@ -39,14 +44,22 @@ void checkName(const std::string& path) {
     if (path.empty() || path.find('\0') != std::string::npos) throw failureOf(kBadFileName, path);
 }
 
+#ifdef _WIN32
+/// As fopen does. The C library of older Windows knows no "x", the wish to make the file or fail.
+std::FILE* openFile(const fs::path& path, const std::string& mode) {
+    if (mode != "wbx") return _wfopen(path.c_str(), std::wstring(mode.begin(), mode.end()).c_str());
+    const int made = _wopen(path.c_str(), _O_WRONLY | _O_CREAT | _O_EXCL | _O_BINARY, _S_IREAD | _S_IWRITE);
+    return made < 0 ? nullptr : _fdopen(made, "wb");
+}
+#else
+std::FILE* openFile(const fs::path& path, const char* mode) {
+    return std::fopen(path.c_str(), mode);
+}
+#endif
+
 File open(const fs::path& path, const char* mode, const std::string& shownPath) {
     errno = 0;
-#ifdef _WIN32
-    const std::wstring wideMode(mode, mode + std::char_traits<char>::length(mode));
-    File file(_wfopen(path.c_str(), wideMode.c_str()));
-#else
-    File file(std::fopen(path.c_str(), mode));
-#endif
+    File file(openFile(path, mode));
     if (!file) throw openFailure(errno, shownPath);
     return file;
 }
