@@ -17,7 +17,7 @@ class RecoveryFileTest : public testing::Test {
 
     RecoveryFile copyOf(const std::string& documentName) { return {application_, 1, documentName}; }
     std::string inProjects(const std::string& name) { return application_.project(name); }
-    [[nodiscard]] long countOfFiles() const {
+    [[nodiscard]] std::ptrdiff_t countOfFiles() const {
         return std::distance(std::filesystem::directory_iterator(application_.project()), {});
     }
 
