@@ -9,7 +9,7 @@ loader=/usr/lib/wine/wine64
 [ -x $loader ] || { echo "under_wine.sh: there is no Wine here (package wine64)" >&2; exit 127; }
 
 WINEPREFIX=$(readlink -f "$(dirname "$0")/..")/out/wine
-# No helpers for web pages and .NET, no menu entries on this machine's desktop.
+# Neither web pages nor .NET, no menu entries on this machine's desktop.
 export WINEPREFIX WINELOADER=$loader WINEDEBUG=-all WINEDLLOVERRIDES='mscoree=;mshtml=;winemenubuilder.exe='
 unset DISPLAY WAYLAND_DISPLAY
 exec $loader "$@"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Measures whole sessions on a display: the start, opening long files, memory, and what an idle program does.
+// Measures whole programs on a display: the start, opening long files, memory, and what an idle program does.
 // Beside it run the toolkit's empty main window and an editor on the same text component.
-// usage: session_bench, with a display and a window manager
+// usage: program_bench, with a display and a window manager
 #include "runtime/files.h"
 #include "shell/preferences_file.h"
 #include "support/temporary_folder.h"
@@ -37,9 +37,9 @@ struct Cost {
     double memory = std::numeric_limits<double>::max();
 };
 
-class Session {
+class Workbench {
   public:
-    Session() {
+    Workbench() {
         std::filesystem::copy(KAV_APP_DIR, folder_.path() / "app", std::filesystem::copy_options::recursive);
         Preferences preferences = parsePreferences(firstRunPreferences());
         preferences.firstRun = false;
@@ -93,13 +93,13 @@ class Session {
     test::TemporaryFolder folder_;
 };
 
-void measureOpening(Session& session, const Cost& ours, const Cost& editor) {
+void measureOpening(Workbench& workbench, const Cost& ours, const Cost& editor) {
     for (const std::size_t megabytes : {1U, 10U, 100U}) {
-        const QString file = session.makeFile("long.asm", megabytes);
+        const QString file = workbench.makeFile("long.asm", megabytes);
         const std::string size = std::to_string(megabytes) + " MB";
         const int rounds = megabytes < 100 ? 3 : 2;
-        const Cost oursWithFile = session.costOf(session.ours({file}), rounds);
-        const Cost editorWithFile = session.costOf(session.editor({file}), rounds);
+        const Cost oursWithFile = workbench.costOf(workbench.ours({file}), rounds);
+        const Cost editorWithFile = workbench.costOf(workbench.editor({file}), rounds);
         bench::printRow("start with a file of " + size, oursWithFile.seconds, editorWithFile.seconds,
                         "scite");
         if (megabytes < 100) continue;
@@ -109,36 +109,36 @@ void measureOpening(Session& session, const Cost& ours, const Cost& editor) {
     }
 }
 
-void measureIdleness(Session& session) {
+void measureIdleness(Workbench& workbench) {
     QStringList files;
     QStringList keys;
     for (int i = 0; i < 10; ++i) {
-        files << session.makeFile("file" + std::to_string(i) + ".asm", 1);
+        files << workbench.makeFile("file" + std::to_string(i) + ".asm", 1);
         if (i > 0)
             keys << "ctrl+n"
                  << "Return";  // with the title that is offered
     }
-    bench::printRow("wakeups a second, idle with ten documents", session.wakeupsOf(session.ours(), keys),
-                    session.wakeupsOf(session.editor(files), {}), "scite (the goal is 1, the usage clock)",
-                    Unit::plain);
+    bench::printRow("wakeups a second, idle with ten documents", workbench.wakeupsOf(workbench.ours(), keys),
+                    workbench.wakeupsOf(workbench.editor(files), {}),
+                    "scite (the goal is 1, the usage clock)", Unit::plain);
 }
 
 }  // namespace
 
 int main(int argumentCount, char** arguments) {
     const QCoreApplication application(argumentCount, arguments);
-    Session session;
+    Workbench workbench;
     constexpr int kRounds = 5;
-    const Cost ours = session.costOf(session.ours(), kRounds);
-    const Cost empty = session.costOf(session.emptyWindow(), kRounds);
-    const Cost editor = session.costOf(session.editor(), kRounds);
+    const Cost ours = workbench.costOf(workbench.ours(), kRounds);
+    const Cost empty = workbench.costOf(workbench.emptyWindow(), kRounds);
+    const Cost editor = workbench.costOf(workbench.editor(), kRounds);
     bench::printRow("start to the first window at rest", ours.seconds, empty.seconds,
                     "the toolkit's empty main window");
     bench::printRow("start to the first window at rest", ours.seconds, editor.seconds, "scite");
     bench::printRow("memory of an empty document", ours.memory, empty.memory,
                     "the toolkit's empty main window", Unit::bytes);
     bench::printRow("memory of an empty document", ours.memory, editor.memory, "scite", Unit::bytes);
-    measureOpening(session, ours, editor);
-    measureIdleness(session);
+    measureOpening(workbench, ours, editor);
+    measureIdleness(workbench);
     return 0;
 }
