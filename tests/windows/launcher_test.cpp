@@ -126,7 +126,7 @@ TEST_F(Launcher, TheListingOpensInTheViewerWithItsWholePath) {
     EXPECT_TRUE(QTest::qWaitFor([&] { return viewed() == folder + "/temp.lst|"; }));
 }
 
-TEST_F(Launcher, TheHelpFileOpensInTheViewerUnderItsPathHere) {
+TEST_F(Launcher, TheHelpFileOpensInAMaximizedViewerUnderItsPathHere) {
     const std::string folder = makeFolderWithScript("My Tools");
     writeScript(folder + "/kav-viewer", "printf '%s|' \"$@\" > '" + folder + "/viewed'\n");
     LinuxLauncher launcher{ApplicationFolder(folder)};
@@ -134,7 +134,8 @@ TEST_F(Launcher, TheHelpFileOpensInTheViewerUnderItsPathHere) {
     const auto viewed = [&folder] {
         return fileExists(folder + "/viewed") ? readFile(folder + "/viewed") : "";
     };
-    EXPECT_TRUE(QTest::qWaitFor([&] { return viewed() == folder + "/kavhelp.hlp|"; })) << viewed();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return viewed() == "--maximized|" + folder + "/kavhelp.hlp|"; }))
+        << viewed();
 }
 
 TEST_F(Launcher, AProgramThatIsNotThereIsFileNotFound) {

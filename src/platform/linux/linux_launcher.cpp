@@ -66,7 +66,9 @@ long LinuxLauncher::launch(const std::string& commandLine, WindowStyle style) {
         return startDetached("xdg-open", {*address});
     for (const char* viewed : {"notepad.exe", "winhelp.exe"}) {
         if (const auto file = argumentOf(commandLine, viewed)) {
-            return startDetached(applicationFolder_.file("kav-viewer"), {viewedPath(*file)});
+            std::vector<std::string> arguments{viewedPath(*file)};
+            if (style == WindowStyle::MaximizedFocus) arguments.insert(arguments.begin(), "--maximized");
+            return startDetached(applicationFolder_.file("kav-viewer"), arguments);
         }
     }
     const SplitCommand split = splitCommandLine(commandLine, isProgram);
