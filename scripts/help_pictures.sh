@@ -108,12 +108,6 @@ fail_build() {
 take_editing() {
     start_program "$projects/hello.kvf"
     take editor
-    request_build HELLO
-    take compile
-    key Escape
-    wait_window "Errors in code" # a program without a name
-    key alt+n
-    wait_window "KAV Compiler"
     key F3
     wait_window Find
     type_text greeting
@@ -128,6 +122,12 @@ take_editing() {
     key Right Right Down Down Down Down Return # View, Tile Horizontally
     xdotool mousemove --window "$(xdotool getactivewindow)" 134 40
     take main-window
+    request_build HELLO
+    take compile
+    key Escape
+    wait_window "Errors in code" # a program without a name
+    key alt+n
+    wait_window "KAV Compiler"
     xdotool mousemove 5 5
     key ctrl+o
     wait_window "Load File"
