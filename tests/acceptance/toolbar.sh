@@ -42,8 +42,8 @@ find_toolbar() {
     fail "the toolbar is not found"
 }
 
-# sweep PAUSE: points at the first and the last pixel of each region and reads what the status bar has said by
-# then, a line each.
+# sweep PAUSE: points at the first and the last pixel of each region and reads what the status bar's first panel
+# has said by then, a line each.
 sweep() {
     local left right help number=1000 lines="$desktop_folder/lines"
     rm -rf "$lines"
@@ -57,7 +57,9 @@ sweep() {
         done
     done
     convert "$lines"/*.png -append -colorspace Gray -resize $((300 / scale))% "$lines/all.png"
-    tesseract "$lines/all.png" - --psm 6 2>>"$desktop_folder/read.log" | grep -v '^[[:space:]]*$' >"$desktop_folder/said"
+    # The second panel tells where the caret is.
+    tesseract "$lines/all.png" - --psm 6 2>>"$desktop_folder/read.log" | grep -v '^[[:space:]]*$' |
+        sed -E 's/ *Line [0-9]+, column [0-9]+ *$//' >"$desktop_folder/said"
 }
 
 # says_every_help PAUSE: whether a sweep read the help of each region twice.
