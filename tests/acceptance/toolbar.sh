@@ -62,6 +62,9 @@ sweep() {
         sed -E 's/ *Line [0-9]+, column [0-9]+ *$//' >"$desktop_folder/said"
 }
 
+# without_folder TEXT: without the name of the desktop's folder, which is made of letters that look alike.
+without_folder() { sed -E 's|/[^/]*/[^/]*/Calculator|/Calculator|' <<<"$1"; }
+
 # says_every_help PAUSE: whether a sweep read the help of each region twice.
 says_every_help() {
     local left right help line region
@@ -70,7 +73,7 @@ says_every_help() {
         read -r left right help <<<"$region"
         for _ in first last; do
             read -r line || return
-            [ "$(legible "$line")" = "$(legible "$help")" ] || return
+            [ "$(legible "$(without_folder "$line")")" = "$(legible "$(without_folder "$help")")" ] || return
         done
     done <"$desktop_folder/said"
 }
