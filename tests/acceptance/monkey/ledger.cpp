@@ -4,9 +4,11 @@
 
 #include "documents/document_window.h"
 #include "documents/text_box.h"
+#include "runtime/failure.h"
 #include "runtime/files.h"
 #include "shell/main_window.h"
 
+#include <cstdint>
 #include <utility>
 
 #include <QApplication>
@@ -14,6 +16,25 @@
 #include <QMdiArea>
 
 namespace kav::test {
+
+namespace {
+
+/// True for a saved file, which ends in one line end more than its text, and for the copy of an unsaved text,
+/// which is the text itself.
+bool holds(const std::filesystem::directory_entry& file, const std::string& text) {
+    std::error_code gone;
+    const std::uintmax_t size = file.file_size(gone);
+    if (size != text.size() && size != text.size() + 2) return false;
+    try {
+        const std::string content = readFile(file.path().string());
+        return content == text || content == text + "\r\n";
+    } catch (const Failure&) {
+        // The program removes copies of unsaved texts while this looks.
+        return false;
+    }
+}
+
+}  // namespace
 
 void Ledger::look(Compiler& compiler) {
     int count = 0;
@@ -80,10 +101,8 @@ void Ledger::judge(const Entry& entry) {
 bool Ledger::inAFile(const std::string& text) const {
     for (const std::filesystem::path& folder : folders_) {
         for (const auto& file : std::filesystem::recursive_directory_iterator(folder)) {
-            // The program removes copies of unsaved texts while this looks.
             std::error_code gone;
-            if (!file.is_regular_file(gone) || file.file_size(gone) != text.size() + 2) continue;
-            if (readFile(file.path().string()) == text + "\r\n") return true;
+            if (file.is_regular_file(gone) && holds(file, text)) return true;
         }
     }
     return false;

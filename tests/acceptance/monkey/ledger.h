@@ -18,8 +18,8 @@ class Doc;
 namespace kav::test {
 
 /// Watches every document window from its opening to its end. A document may go without a word only when its
-/// text is the one it was opened with, stands in a file, or was let go by an answer of the user's; anything
-/// else is a loss.
+/// text is the one it was opened with, stands in a file or in the copy of an unsaved text, or was let go by
+/// an answer of the user's; anything else is a loss.
 class Ledger : public QObject {
     Q_OBJECT
 
