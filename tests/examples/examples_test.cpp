@@ -101,7 +101,10 @@ TEST(Examples, MirageProgramDrawsItsButtonAndAText) {
     EXPECT_EQ(calculator.smallTexts()[0].text, "Have a nice day!");
     EXPECT_EQ(calculator.smallTexts()[0].column, 29);
     EXPECT_EQ(calculator.smallTexts()[0].row, 42);
-    EXPECT_EQ(calculator.libraryCalls(), (std::vector<std::uint16_t>{0x408C, 0x4092}));
+    constexpr std::uint16_t kLargeSprite = 0x408C;
+    constexpr std::uint16_t kFastCopy = 0x4092;
+    const std::vector<std::uint16_t> drawing = {kLargeSprite, kFastCopy};
+    EXPECT_EQ(calculator.libraryCalls(), drawing);
     calculator.press({kEnter});
     EXPECT_EQ(calculator.run(), Stop::Returned);
 }
