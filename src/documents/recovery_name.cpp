@@ -3,11 +3,11 @@
 #include "documents/recovery_name.h"
 
 #include "documents/caption.h"
+#include "runtime/ascii_case.h"
 #include "runtime/code_points.h"
 
 #include <algorithm>
 #include <array>
-#include <cctype>
 
 namespace kav {
 
@@ -41,13 +41,6 @@ std::string legalName(std::string_view text, std::size_t longest) {
         text.remove_prefix(character.length);
     }
     return name;
-}
-
-std::string lowered(std::string_view ascii) {
-    std::string text(ascii);
-    std::transform(text.begin(), text.end(), text.begin(),
-                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
-    return text;
 }
 
 /// What stands behind the last separator of `path`, which loses it.

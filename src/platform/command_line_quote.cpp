@@ -2,6 +2,7 @@
 // Arguments written into a command line, for programs and for batch files.
 #include "platform/command_line_quote.h"
 
+#include "runtime/ascii_case.h"
 #include "runtime/failure.h"
 
 #include <algorithm>
@@ -21,10 +22,6 @@ constexpr std::string_view kMoreThanTextInQuotes = "\"%\r\n\0"sv;
 
 // No commands at its start, no replacing of !NAME!, the outermost quotes taken off, one command and the end.
 constexpr std::string_view kSwitches = " /d /v:off /s /c ";
-
-char lowered(char letter) {
-    return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
-}
 
 void refuse(std::string_view text, std::string_view characters) {
     const std::size_t at = text.find_first_of(characters);
@@ -52,8 +49,7 @@ std::string quotedArgument(std::string_view argument) {
 bool isBatchFile(std::string_view path) {
     // The system opens the same file whether or not dots and blanks follow its name.
     path = path.substr(0, path.find_last_not_of(". ") + 1);
-    std::string end(path.substr(path.size() - std::min<std::size_t>(path.size(), 4)));
-    std::transform(end.begin(), end.end(), end.begin(), lowered);
+    const std::string end = lowered(path.substr(path.size() - std::min<std::size_t>(path.size(), 4)));
     return end == ".bat" || end == ".cmd";
 }
 

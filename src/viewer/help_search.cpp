@@ -2,6 +2,7 @@
 // Finds the pages of the help that have the words a user looks for.
 #include "viewer/help_search.h"
 
+#include "runtime/ascii_case.h"
 #include "viewer/html_scanner.h"
 
 #include <algorithm>
@@ -13,14 +14,6 @@ namespace {
 
 constexpr std::size_t kExcerptBefore = 30;
 constexpr std::size_t kExcerptLength = 100;
-
-std::string lowered(std::string_view text) {
-    std::string result(text);
-    for (char& character : result) {
-        if (character >= 'A' && character <= 'Z') character = static_cast<char>(character - 'A' + 'a');
-    }
-    return result;
-}
 
 std::vector<std::string> wordsOf(const std::string& text) {
     std::vector<std::string> words;
