@@ -2,6 +2,7 @@
 // The running program, and what happens to a failure that nobody caught.
 #include "shell/application.h"
 
+#include "platform/desktop/hidden_focus.h"
 #include "platform/desktop/text_conversion.h"
 #include "runtime/failure.h"
 #include "shell/application_icon.h"
@@ -13,6 +14,7 @@
 
 #include <QMessageBox>
 #include <QStyleFactory>
+#include <QWindow>
 
 namespace kav {
 
@@ -34,6 +36,7 @@ void keepWhatWasTyped() {
 Application::Application(int& argumentCount, char** arguments) : QApplication(argumentCount, arguments) {
     setApplicationName("kav-compiler");
     setWindowIcon(applicationIcon());
+    connect(this, &QGuiApplication::focusWindowChanged, this, passFocusOnFromHidden);
     setStyle(new DocumentFrameStyle);
 }
 
