@@ -2,6 +2,7 @@
 // The string converter.
 #include "tools/string_converter_window.h"
 
+#include "platform/desktop/plain_text_box.h"
 #include "platform/desktop/text_conversion.h"
 #include "shell/trapped.h"
 #include "tools/string_converter.h"
@@ -12,7 +13,6 @@
 #include <QFontDatabase>
 #include <QGridLayout>
 #include <QLabel>
-#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTextDocument>
@@ -23,7 +23,7 @@ namespace {
 
 /// The box's text as the program's bytes. The plain text that the toolkit offers has blanks in place of
 /// no-break spaces, so its own form is taken, where separators stand for line ends.
-std::string bytesOf(const QPlainTextEdit& box) {
+std::string bytesOf(const PlainTextBox& box) {
     QString text = box.document()->toRawText();
     text.replace(QChar::ParagraphSeparator, "\r\n").replace(QChar::LineSeparator, "\r\n");
     return typed(text);
@@ -40,15 +40,15 @@ Control* named(const char* name, Arguments... arguments) {
 
 StrConv::StrConv(Workspace& workspace, QWidget* owner)
     : ToolWindow(workspace, owner, "StrConv", "String Converter - KAV Compiler"),
-      inp(named<QPlainTextEdit>("inp", this)),
-      out(named<QPlainTextEdit>("out", this)),
+      inp(named<PlainTextBox>("inp", this)),
+      out(named<PlainTextBox>("out", this)),
       vcode(named<QCheckBox>("vcode", "To VCode", this)),
       zero(named<QCheckBox>("zero", "Zero Delimited", this)),
       spaced(named<QRadioButton>("spaced", "Spaced", this)),
       tabbed(named<QRadioButton>("tabbed", "Tabbed", this)) {
     spaced->setChecked(true);
     out->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-    out->setLineWrapMode(QPlainTextEdit::NoWrap);
+    out->setLineWrapMode(PlainTextBox::NoWrap);
     inp->setFont(out->font());
     layOut();
     inp->setFocus();

@@ -5,10 +5,11 @@
 #include "tools/tool_window.h"
 
 class QCheckBox;
-class QPlainTextEdit;
 class QRadioButton;
 
 namespace kav {
+
+class PlainTextBox;
 
 /// "String Converter": text typed or pasted on the left becomes ".db" lines on the right, as quoted strings
 /// or compressed with VCode, for the clipboard or the active document.
@@ -26,8 +27,8 @@ class StrConv : public ToolWindow {
     void layOut();
     void convert();
 
-    QPlainTextEdit* inp;
-    QPlainTextEdit* out;
+    PlainTextBox* inp;
+    PlainTextBox* out;
     QCheckBox* vcode;
     QCheckBox* zero;
     QRadioButton* spaced;

@@ -4,7 +4,10 @@
 #include "windows/tool_window_fixture.h"
 
 #include <QCheckBox>
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QLabel>
+#include <QMimeData>
 #include <QPlainTextEdit>
 #include <QRadioButton>
 
@@ -55,6 +58,21 @@ TEST_F(StringConverterWindow, HasItsControls) {
     EXPECT_EQ(inp().font().pointSize(), out().font().pointSize());
     EXPECT_FALSE(tool().isModal());
     EXPECT_EQ(tool().parentWidget(), &compiler());
+}
+
+TEST_F(StringConverterWindow, TakesAPasteOfNothing) {
+    QGuiApplication::clipboard()->setMimeData(new QMimeData);
+    inp().setPlainText("as it was");
+    inp().paste();
+    out().paste();
+    EXPECT_EQ(inp().toPlainText(), "as it was");
+    EXPECT_EQ(out().toPlainText(), "");
+}
+
+TEST_F(StringConverterWindow, TakesAPasteOfText) {
+    QGuiApplication::clipboard()->setText("pasted");
+    inp().paste();
+    EXPECT_EQ(inp().toPlainText(), "pasted");
 }
 
 TEST_F(StringConverterWindow, ConvertsToQuotedStrings) {
