@@ -8,7 +8,9 @@
 #include "runtime/files.h"
 #include "shell/main_window.h"
 
+#include <algorithm>
 #include <cstdint>
+#include <iostream>
 #include <utility>
 
 #include <QApplication>
@@ -47,11 +49,16 @@ void Ledger::look(Compiler& compiler) {
         if (!document->isHidden()) audit(*document, entries_.at(document));
     }
     // While a dialog asks, the document that it asks about stays the same.
-    if (QApplication::activeModalWidget() == nullptr) active_ = compiler.activeDocument();
+    if (!withinCommand()) active_ = compiler.activeDocument();
     if (compiler.values().openDocuments != count) {
-        losses_.push_back("the program counts " + std::to_string(compiler.values().openDocuments) +
-                          " documents where there are " + std::to_string(count));
+        lose("the program counts " + std::to_string(compiler.values().openDocuments) +
+             " documents where there are " + std::to_string(count));
     }
+}
+
+// Then the books may be open.
+bool Ledger::withinCommand() const {
+    return closing_ || QApplication::activeModalWidget() != nullptr;
 }
 
 void Ledger::open(Doc& document) {
@@ -63,39 +70,53 @@ void Ledger::open(Doc& document) {
 
 void Ledger::audit(const Doc& document, Entry& entry) {
     entry.name = document.caption();
-    entry.text = document.txt().bytes();
-    // Within a command the books may be open.
-    if (QApplication::activeModalWidget() != nullptr) return;
-    entry.closing = false;
+    if (withinCommand()) return;
     const bool letGo = std::exchange(entry.letGo, false);
-    if (document.isModified() || entry.text == entry.kept) return;
+    const std::string text = document.txt().bytes();
+    if (document.isModified() || text == entry.kept) return;
     // The program takes this text for saved.
-    if (!letGo && !inAFile(entry.text)) losses_.push_back(entry.name + " is taken for saved and is not");
-    entry.kept = entry.text;
+    if (!letGo && !inAFile(text)) lose(entry.name + " is taken for saved and is not");
+    entry.kept = text;
 }
 
 void Ledger::letGo() {
-    if (entries_.contains(active_)) entries_.at(active_).letGo = true;
+    if (!entries_.contains(active_)) return;
+    Entry& entry = entries_.at(active_);
+    std::cout << entry.name << " is let go" << std::endl;
+    entry.letGo = true;
 }
 
 bool Ledger::eventFilter(QObject* watched, QEvent* event) {
-    const auto known = entries_.find(watched);
-    if (known == entries_.end()) return false;
-    Entry& entry = known->second;
-    if (event->type() == QEvent::Close) {
-        entry.text = qobject_cast<Doc*>(watched)->txt().bytes();
-        entry.letGo = false;
-        entry.closing = true;
-        active_ = watched;
-    } else if (event->type() == QEvent::Hide && entry.closing) {
-        judge(entry);
-    }
-    return false;
+    if (event->type() != QEvent::Close || !entries_.contains(watched)) return false;
+    close(*qobject_cast<Doc*>(watched), *event);
+    return true;
 }
 
-void Ledger::judge(const Entry& entry) {
-    if (entry.letGo || entry.text == entry.kept || inAFile(entry.text)) return;
-    losses_.push_back(entry.name + " is gone with " + std::to_string(entry.text.size()) + " bytes");
+void Ledger::close(Doc& document, QEvent& event) {
+    Entry& entry = entries_.at(&document);
+    const std::string text = document.txt().bytes();
+    entry.letGo = false;
+    active_ = &document;
+    closing_ = true;
+    // Only the document itself can tell whether it goes: it is asked here, and judged at once, before the
+    // next one can be saved over its file. That it is hidden says nothing, since a document that is brought
+    // to the front is hidden and shown, too.
+    static_cast<QObject&>(document).event(&event);
+    closing_ = false;
+    if (!event.isAccepted() || entry.letGo || text == entry.kept || inAFile(text)) return;
+    lose(entry.name + " is gone with " + std::to_string(text.size()) + " bytes");
+}
+
+void Ledger::lose(const std::string& what) {
+    // Among the gestures that led to it.
+    std::cout << "LOST: " << what << std::endl;
+    losses_.push_back(what);
+}
+
+bool Ledger::watches(const std::filesystem::path& file) const {
+    return std::ranges::any_of(folders_, [&](const std::filesystem::path& folder) {
+        return std::ranges::mismatch(folder, file).in1 == folder.end();
+    });
 }
 
 bool Ledger::inAFile(const std::string& text) const {

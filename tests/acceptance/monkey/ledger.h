@@ -17,9 +17,9 @@ class Doc;
 
 namespace kav::test {
 
-/// Watches every document window from its opening to its end. A document may go without a word only when its
-/// text is the one it was opened with, stands in a file or in the copy of an unsaved text, or was let go by
-/// an answer of the user's; anything else is a loss.
+/// Watches every document window from its opening to its end, and tells what it sees on the standard output.
+/// A document may go without a word only when its text is the one it was opened with, stands in a file or in
+/// the copy of an unsaved text, or was let go by an answer of the user's; anything else is a loss.
 class Ledger : public QObject {
     Q_OBJECT
 
@@ -33,6 +33,9 @@ class Ledger : public QObject {
     /// The user gave the active document's text up.
     void letGo();
 
+    /// Whether files are looked for where this one is.
+    [[nodiscard]] bool watches(const std::filesystem::path& file) const;
+
     [[nodiscard]] const std::vector<std::string>& losses() const { return losses_; }
 
   protected:
@@ -43,19 +46,21 @@ class Ledger : public QObject {
         std::string name;
         /// The text that stands somewhere else as well, or that nobody misses.
         std::string kept;
-        std::string text;
         bool letGo = false;
-        bool closing = false;
     };
 
+    [[nodiscard]] bool withinCommand() const;
     void open(Doc& document);
     void audit(const Doc& document, Entry& entry);
-    void judge(const Entry& entry);
+    void close(Doc& document, QEvent& event);
+    void lose(const std::string& what);
     [[nodiscard]] bool inAFile(const std::string& text) const;
 
     std::vector<std::filesystem::path> folders_;
     std::map<const QObject*, Entry> entries_;
     const QObject* active_ = nullptr;
+    /// A document is being closed, which may take a question or two.
+    bool closing_ = false;
     std::vector<std::string> losses_;
 };
 

@@ -22,6 +22,8 @@ std::string WatchedBoxes::ask(const InputBox& box) {
 
 std::optional<std::string> WatchedFileChooser::choose(const FileQuestion& question) {
     auto path = DesktopFileChooser::choose(question);
+    // A click meant for something else may have led the dialog away; there the monkey touches nothing.
+    if (path && !ledger_.watches(*path)) path.reset();
     if (!path && question.kind == FileQuestion::Kind::Save) ledger_.letGo();
     return path;
 }

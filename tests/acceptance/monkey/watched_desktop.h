@@ -24,7 +24,8 @@ class WatchedBoxes : public DesktopBoxes {
     Ledger& ledger_;
 };
 
-/// Shows the desktop's file dialog and tells the ledger when a save was called off.
+/// Shows the desktop's file dialog and tells the ledger when a save was called off. A choice outside the
+/// folders that the ledger watches is called off, too.
 class WatchedFileChooser : public DesktopFileChooser {
   public:
     explicit WatchedFileChooser(Ledger& ledger) : ledger_(ledger) {}
