@@ -5,6 +5,7 @@
 #include "assembler/characters.h"
 #include "assembler/number.h"
 #include "assembler/text.h"
+#include "runtime/ascii_case.h"
 
 #include <optional>
 

@@ -2,10 +2,11 @@
 // What each character may be in a line of assembly source.
 #pragma once
 
+#include "runtime/ascii_case.h"
+
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <string>
 #include <string_view>
 
 namespace kav::assembler {
@@ -17,14 +18,6 @@ enum CharacterPart : std::uint8_t {
     kNamePart = 4,
     kDigit = 8,
 };
-
-/// The lower-case form of an ASCII letter, every other character as it is.
-[[nodiscard]] constexpr char lowered(char c) {
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
-
-/// The text in lower case.
-[[nodiscard]] std::string lowered(std::string_view text);
 
 /// True when the texts are equal but for the case of ASCII letters.
 [[nodiscard]] bool equalIgnoringCase(std::string_view a, std::string_view b);

@@ -2,7 +2,9 @@
 // Textual macros: names that stand for text, with or without arguments.
 #include "assembler/macros.h"
 
+#include "assembler/characters.h"
 #include "assembler/text.h"
+#include "runtime/ascii_case.h"
 
 #include <algorithm>
 

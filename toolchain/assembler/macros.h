@@ -2,8 +2,8 @@
 // Textual macros: names that stand for text, with or without arguments.
 #pragma once
 
-#include "assembler/characters.h"
 #include "assembler/name_place.h"
+#include "runtime/ascii_case.h"
 
 #include <array>
 #include <cstddef>

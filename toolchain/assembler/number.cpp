@@ -3,6 +3,7 @@
 #include "assembler/number.h"
 
 #include "assembler/characters.h"
+#include "runtime/ascii_case.h"
 
 namespace kav::assembler {
 

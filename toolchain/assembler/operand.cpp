@@ -2,10 +2,10 @@
 // What the operands of an instruction are.
 #include "assembler/operand.h"
 
-#include "assembler/characters.h"
 #include "assembler/text.h"
 #include "assembler/word_key.h"
 #include "assembler/words.h"
+#include "runtime/ascii_case.h"
 
 namespace kav::assembler {
 

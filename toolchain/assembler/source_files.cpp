@@ -4,6 +4,7 @@
 
 #include "assembler/characters.h"
 #include "assembler/text.h"
+#include "runtime/ascii_case.h"
 
 #include <algorithm>
 #include <cstdint>

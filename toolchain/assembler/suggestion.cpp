@@ -2,9 +2,9 @@
 // "Did you mean": the nearest known word to a misspelt one.
 #include "assembler/suggestion.h"
 
-#include "assembler/characters.h"
 #include "assembler/symbol_table.h"
 #include "assembler/text.h"
+#include "runtime/ascii_case.h"
 
 #include <algorithm>
 #include <vector>

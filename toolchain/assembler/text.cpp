@@ -3,6 +3,7 @@
 #include "assembler/text.h"
 
 #include "assembler/characters.h"
+#include "runtime/ascii_case.h"
 
 namespace kav::assembler {
 
@@ -26,13 +27,6 @@ std::size_t behindApostrophe(std::string_view text, std::size_t position) {
 }
 
 }  // namespace
-
-std::string lowered(std::string_view text) {
-    std::string result(text);
-    for (char& c : result)
-        c = lowered(c);
-    return result;
-}
 
 bool equalIgnoringCase(std::string_view a, std::string_view b) {
     if (a.size() != b.size()) return false;

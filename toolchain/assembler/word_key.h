@@ -2,7 +2,7 @@
 // Known words found by a number that they are packed into, without comparing texts.
 #pragma once
 
-#include "assembler/characters.h"
+#include "runtime/ascii_case.h"
 
 #include <array>
 #include <cstddef>

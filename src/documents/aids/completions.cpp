@@ -6,6 +6,7 @@
 #include "assembler/instruction_table.h"
 #include "assembler/words.h"
 #include "documents/aids/source_line.h"
+#include "runtime/ascii_case.h"
 
 #include <algorithm>
 
@@ -14,7 +15,6 @@ namespace kav {
 namespace {
 
 using assembler::equalIgnoringCase;
-using assembler::lowered;
 
 constexpr std::size_t kFewestLetters = 2;
 

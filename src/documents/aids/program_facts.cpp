@@ -2,8 +2,8 @@
 // What the assembler knows of a document: the size and time of its statements, and the names that it uses.
 #include "documents/aids/program_facts.h"
 
-#include "assembler/characters.h"  // lowered
-#include "build/build_files.h"     // what stands in front of every document
+#include "build/build_files.h"  // what stands in front of every document
+#include "runtime/ascii_case.h"
 
 #include <algorithm>
 #include <memory>
@@ -75,9 +75,9 @@ ProgramFacts::ProgramFacts(std::string_view document, const BuildContext& contex
 
 void ProgramFacts::indexNames() {
     for (std::size_t i = 0; i < result_.symbols.size(); ++i)
-        symbolPlaces_.emplace(assembler::lowered(result_.symbols[i].name), i);
+        symbolPlaces_.emplace(lowered(result_.symbols[i].name), i);
     for (std::size_t i = 0; i < result_.macros.size(); ++i)
-        macroPlaces_.emplace(assembler::lowered(result_.macros[i].name), i);
+        macroPlaces_.emplace(lowered(result_.macros[i].name), i);
 }
 
 void ProgramFacts::noteErrorLines() {
@@ -132,7 +132,7 @@ const Symbol* ProgramFacts::symbol(std::string_view name, int line) const {
         return isInDocument(symbol.file) && symbol.line <= line ? symbol.line : 0;
     };
     const Symbol* meant = nullptr;
-    const auto [first, last] = symbolPlaces_.equal_range(assembler::lowered(name));
+    const auto [first, last] = symbolPlaces_.equal_range(lowered(name));
     for (auto place = first; place != last; ++place) {
         const Symbol& symbol = result_.symbols[place->second];
         if (meant == nullptr || nearness(symbol) > nearness(*meant)) meant = &symbol;
@@ -142,7 +142,7 @@ const Symbol* ProgramFacts::symbol(std::string_view name, int line) const {
 
 const assembler::NamedMacro* ProgramFacts::macro(std::string_view name) const {
     const assembler::NamedMacro* meant = nullptr;
-    const auto [first, last] = macroPlaces_.equal_range(assembler::lowered(name));
+    const auto [first, last] = macroPlaces_.equal_range(lowered(name));
     for (auto place = first; place != last; ++place) {
         const assembler::NamedMacro& macro = result_.macros[place->second];
         if (macro.name == name) return &macro;
