@@ -9,10 +9,12 @@
 #include "watched_program.h"
 
 #include <algorithm>
+#include <chrono>
 #include <filesystem>
 #include <limits>
 #include <string>
 #include <string_view>
+#include <thread>
 
 #include <QCoreApplication>
 #include <QProcess>
@@ -63,12 +65,16 @@ class Workbench {
         return path(name);
     }
 
-    /// The least of several sessions.
+    /// The least of several sessions. Memory is looked at when what begins in the background is there as
+    /// well.
     [[nodiscard]] Cost costOf(const Subject& subject, int rounds) const {
+        using namespace std::chrono_literals;
+        constexpr auto kSettling = 1s;
         Cost least;
         for (int round = 0; round < rounds; ++round) {
             WatchedProgram watched(subject.program, subject.arguments);
             least.seconds = std::min(least.seconds, watched.secondsUntilReady(subject.title));
+            std::this_thread::sleep_for(kSettling);
             least.memory = std::min(least.memory, watched.memory());
         }
         return least;

@@ -19,7 +19,9 @@ using namespace std::chrono_literals;
 using Clock = std::chrono::steady_clock;
 
 constexpr auto kLook = 2ms;
-constexpr auto kRest = 400ms;
+/// Shorter than any pause after which a program that waits for its user moves: carets blink every 500 ms, and
+/// what a program reads ahead in the background begins later.
+constexpr auto kRest = 200ms;
 constexpr auto kPatience = 60s;
 
 QByteArray content(const QString& path) {
