@@ -4,22 +4,25 @@
 #pragma once
 
 #include <cstdio>
+#include <limits>
 #include <string>
 
 namespace kav::bench {
 
 enum class Unit { seconds, bytes, plain };
 
-/// The value with three digits or so, in the unit that suits its size.
+/// The value with three digits or so, in the unit that suits its size. A difference of two measurements may
+/// be below zero.
 inline std::string shownValue(double value, Unit unit) {
     struct Scale {
         double least;
         double factor;
         const char* name;
     };
-    constexpr Scale kSeconds[] = {{1, 1, "s"}, {1e-3, 1e3, "ms"}, {0, 1e6, "us"}};
-    constexpr Scale kBytes[] = {{1e6, 1e-6, "MB"}, {1e3, 1e-3, "KB"}, {0, 1, "bytes"}};
-    constexpr Scale kPlain[] = {{0, 1, ""}, {0, 1, ""}, {0, 1, ""}};
+    constexpr double kAny = -std::numeric_limits<double>::infinity();
+    constexpr Scale kSeconds[] = {{1, 1, "s"}, {1e-3, 1e3, "ms"}, {kAny, 1e6, "us"}};
+    constexpr Scale kBytes[] = {{1e6, 1e-6, "MB"}, {1e3, 1e-3, "KB"}, {kAny, 1, "bytes"}};
+    constexpr Scale kPlain[] = {{kAny, 1, ""}};
     const Scale* scale = unit == Unit::seconds ? kSeconds : unit == Unit::bytes ? kBytes : kPlain;
     while (value < scale->least)
         ++scale;
