@@ -25,7 +25,7 @@ class Command : public testing::Test {
         return {std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
     }
 
-    ExitCode run(std::vector<std::string> arguments) {
+    ExitCode run(const std::vector<std::string>& arguments) {
         return assembler::run(readCommandLine(arguments), folder_.path().string(), output_, errors_);
     }
 

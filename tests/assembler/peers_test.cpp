@@ -10,7 +10,6 @@
 #include <fstream>
 #include <gtest/gtest.h>
 #include <iterator>
-#include <ranges>
 #include <set>
 #include <sstream>
 
@@ -78,9 +77,8 @@ class PeerRun {
             if (assembles(lines)) return bytesOf(contentOf(folder_.file("out")));
             const std::set<std::size_t> unknown = errorLines();
             if (unknown.empty()) break;
-            for (const std::size_t line : std::ranges::reverse_view(unknown)) {
-                lines.erase(lines.begin() + static_cast<std::ptrdiff_t>(line - 1));
-            }
+            for (auto line = unknown.rbegin(); line != unknown.rend(); ++line)
+                lines.erase(lines.begin() + static_cast<std::ptrdiff_t>(*line - 1));
         }
         ADD_FAILURE() << peer_.program << " fails: " << contentOf(folder_.file("log"));
         return {};

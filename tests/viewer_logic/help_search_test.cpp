@@ -18,6 +18,7 @@ HelpBook bookOf(const std::vector<std::pair<std::string, std::string>>& pages) {
 
 std::vector<std::size_t> pagesOf(const std::vector<SearchHit>& hits) {
     std::vector<std::size_t> pages;
+    pages.reserve(hits.size());
     for (const SearchHit& hit : hits)
         pages.push_back(hit.page);
     return pages;

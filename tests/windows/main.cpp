@@ -8,6 +8,7 @@
 
 /// Read by the leak checker of the sanitizer build: what the toolkit leaves behind when a failure that nobody
 /// catches passes through it. The program ends then.
+// NOLINTNEXTLINE(bugprone-reserved-identifier): the leak checker's name
 extern "C" const char* __lsan_default_suppressions() {
     return "leak:QtSharedPointer::ExternalRefCountData::getAndRef\n";
 }

@@ -32,8 +32,8 @@ class MirageWizard : public ToolWindowTest<Form1> {
     }
 
     /// The line of a button row in the standard program; then opens the wizard again.
-    std::string rowLine(int row) {
-        const std::string line = generated().at(static_cast<std::size_t>(8 + row));
+    std::string rowLine(std::size_t row) {
+        std::string line = generated().at(8 + row);
         choose("nmf");
         return line;
     }
@@ -249,7 +249,7 @@ TEST_F(MirageWizard, ReportsACellBeyondTheGridAndPaintsNothing) {
             << box.text;
     }
     EXPECT_EQ(desktop_.boxes.shownBoxes.size(), 3U);
-    for (int row = 1; row <= 15; ++row)
+    for (std::size_t row = 1; row <= 15; ++row)
         EXPECT_EQ(rowLine(row), kEmptyRow);
 }
 
