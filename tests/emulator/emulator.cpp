@@ -145,7 +145,7 @@ Stop Emulator::quit() {
 bool Emulator::trap(std::uint16_t counter) {
     const bool plus = calculator_ == Calculator::Ti83Plus;
     if (library_.contains(counter)) {
-        libraryCalls_.push_back(counter);
+        shellCalls_.push_back(counter);
         serve(library_, counter);
         return true;
     }

@@ -62,8 +62,8 @@ class Emulator {
     [[nodiscard]] std::uint8_t memory(std::uint16_t address) const { return memory_[address]; }
     /// The numbers of the system calls (TI-83 Plus) or the addresses of the ROM calls (TI-83), in order.
     [[nodiscard]] const std::vector<std::uint16_t>& calls() const { return calls_; }
-    /// The library entry points called, in order.
-    [[nodiscard]] const std::vector<std::uint16_t>& libraryCalls() const { return libraryCalls_; }
+    /// The entry points of the shell's library that were called, in order.
+    [[nodiscard]] const std::vector<std::uint16_t>& shellCalls() const { return shellCalls_; }
 
   private:
     using Routine = void (Emulator::*)();
@@ -111,7 +111,7 @@ class Emulator {
     std::array<std::string, 8> rows_;
     std::vector<SmallText> smallTexts_;
     std::vector<std::uint16_t> calls_;
-    std::vector<std::uint16_t> libraryCalls_;
+    std::vector<std::uint16_t> shellCalls_;
     std::deque<std::uint8_t> keys_;
     std::map<std::uint16_t, Routine> systemCalls_;
     std::map<std::uint16_t, Routine> library_;

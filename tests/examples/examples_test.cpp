@@ -104,7 +104,7 @@ TEST(Examples, MirageProgramDrawsItsButtonAndAText) {
     constexpr std::uint16_t kLargeSprite = 0x408C;
     constexpr std::uint16_t kFastCopy = 0x4092;
     const std::vector<std::uint16_t> drawing = {kLargeSprite, kFastCopy};
-    EXPECT_EQ(calculator.libraryCalls(), drawing);
+    EXPECT_EQ(calculator.shellCalls(), drawing);
     calculator.press({kEnter});
     EXPECT_EQ(calculator.run(), Stop::Returned);
 }
